@@ -1,0 +1,83 @@
+// The seven pages: objects with numbered areas, labels, marks, lines and a logo.
+#pragma once
+#include <array>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace quillane {
+
+/// The window index of each page: 0 frmP1 to 5 frmP6, and 6 for frmP6_1, the client's copy of frmP6.
+inline constexpr int PageCount = 7;
+inline constexpr int CopyOfPage6 = 6;
+
+namespace sheet {
+inline constexpr float Width = 12240;   ///< twips
+inline constexpr float Height = 15840;  ///< twips
+inline constexpr float Centre = 6120;
+inline constexpr float AreaHeight = 255;
+inline constexpr float PlainLeft = 720, PlainWidth = 9000;      ///< a row without columns
+inline constexpr float ColumnsLeft = 1260, ColumnsWidth = 6630;  ///< a row with columns
+}  // namespace sheet
+
+class Page {
+ public:
+  explicit Page(int window);
+  Page(const Page&) = delete;
+  Page& operator=(const Page&) = delete;
+
+  Form form;
+  int window;     ///< 0 to 6
+  int pageIndex;  ///< 0 to 5: the index in every array; frmP6_1 has that of frmP6
+  QString tag;    ///< "frmP2.69"
+
+  // Control arrays, indexed as their names are.  On pages without columns the four column arrays are empty; on frmP1
+  // their elements 0 to 19 exist and are never shown.
+  std::vector<Control> txt, imgNoTax, lbl, lne, txtQty, txtAmt, lblAt, lblEach;
+  std::vector<Control> pic;        ///< one element on frmP1, none elsewhere
+  std::vector<Control> shpSelect;  ///< one element on pages with a selection
+
+  bool columnsLoaded = false;
+  int lastFocused = 0;  ///< the txt index that takes the focus when the page comes to the front
+
+  /// All controls in the page's own order: the order in which they print and are added up.
+  const std::vector<Control*>& Controls() const { return order_; }
+
+  bool IsItemPage() const { return window <= 4; }
+  bool IsTotalsPage() const { return window >= 5; }
+  int LastText() const { return static_cast<int>(txt.size()) - 1; }
+  int LastLabel() const { return static_cast<int>(lbl.size()) - 1; }
+  /// The description rows that may have columns: 20 to 27 on frmP1, 0 to 34 on frmP2 to frmP5.
+  int FirstRow() const { return window == 0 ? 20 : 0; }
+  int LastRow() const { return window == 0 ? 27 : 34; }
+  bool IsRow(int area) const { return IsItemPage() && area >= FirstRow() && area <= LastRow(); }
+  /// From a row to its amount area: 8 on frmP1, 35 on the item pages.
+  int AmountOffset() const { return window == 0 ? 8 : 35; }
+  bool IsAmount(int area) const { return IsItemPage() && IsRow(area - AmountOffset()); }
+  /// The currency label of an amount area: lbl(a + 7) on frmP1, lbl(a - 34) on the item pages.
+  Control& CurrencyLabel(int amountArea) {
+    return lbl[static_cast<size_t>(window == 0 ? amountArea + 7 : amountArea - 34)];
+  }
+  /// True when the row's area stands in the narrow place, which is what makes it a row with columns.
+  bool HasColumns(int row) const { return txt[static_cast<size_t>(row)].Width() == sheet::ColumnsWidth; }
+
+ private:
+  std::vector<Control*> order_;
+};
+
+/// The page of a window index, 0 to 6.
+Page& page(int window);
+/// The page that owns a control; null for a control of the frame or of another window.
+Page* PageOf(const Control& control);
+/// The control "frmP2.txt(35)" or "frmP2.txtQty(3)"; null when there is none.
+Control* FindPageControl(const QString& fullName);
+
+/// The limit and the kind that an area's Tag carries: "Push.120" gives 120 and "Push".
+int AreaLimit(const Control& area);
+QString AreaKind(const Control& area);
+inline bool IsNumericArea(const Control& area) { return area.Tag().endsWith(QLatin1String("020")); }
+
+/// Builds the seven pages anew (a test's fresh start); controls stand at their places with their Tags.
+void CreatePages();
+
+}  // namespace quillane

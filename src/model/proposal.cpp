@@ -1,0 +1,35 @@
+#include "model/proposal.h"
+
+#include "model/focus.h"
+#include "model/frame.h"
+
+namespace quillane {
+
+QString BlankSlot() { return QString(120, QLatin1Char(' ')); }
+
+namespace {
+void BlankTexts(PageTexts& texts) {
+  for (int p = 0; p < IndexedPages; ++p)
+    texts[static_cast<size_t>(p)].assign(static_cast<size_t>(AreaCount(p)), BlankSlot());
+}
+}  // namespace
+
+void ResetState() {
+  editing = {};
+  proposal = {};
+  format = {};
+  printing = {};
+  tax = {};
+  fileDialog = {};
+  terms = {};
+  const QString programFolder = prefs.ProgramFolder;  // the run's, not the proposal's
+  prefs = {};
+  prefs.ProgramFolder = programFolder;
+  BlankTexts(proposal.PageText);
+  BlankTexts(proposal.SavedText);
+  CreatePages();
+  CreateFrame();
+  editing.CurrentForm = &page(0);
+}
+
+}  // namespace quillane

@@ -1,0 +1,231 @@
+// The open proposal and the application-wide state around it: plain structs by owner, one instance of each.
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <vector>
+
+#include "model/page.h"
+#include "ui/font.h"
+
+namespace quillane {
+
+inline constexpr int IndexedPages = 6;  ///< pages that have an index in the arrays
+inline constexpr int ItemPages = 5;
+inline constexpr int AreasPerPage = 70;
+inline constexpr int LabelsPerPage = 65;
+
+/// What an area carries beside its text.
+struct TextAreaRecord {
+  bool PropChanged = false;    ///< bold or exemption changed by hand; cleared once the property file is written
+  bool FontBold = false;
+  QString Text;                ///< fixed text of an area that is not numeric
+  bool HasFormatText = false;  ///< the format layer fixes this area's text
+  bool TaxExempt = false;
+  bool QtyBox = false;         ///< the row has columns
+  QString QtyValue, AmtValue;  ///< texts of txtQty and txtAmt
+  bool QtyWritten = false;     ///< set while the row's column line must still reach a file
+  bool operator==(const TextAreaRecord&) const = default;
+};
+
+struct LabelRecord {
+  bool Changed = false;
+  float Left = 0, Top = 0;  ///< twips
+  QString Caption, FontName;
+  float FontSize = 0;  ///< points
+  bool FontBold = false;
+  Color ForeColor = 0;
+  bool FontItalic = false, FontUnderline = false;
+  bool Written = false;
+  bool operator==(const LabelRecord&) const = default;
+};
+
+/// A label's factory state.
+struct LabelDefault {
+  float Left = 0, Top = 0;
+  QString Caption, FontName;
+  float FontSize = 0;
+  bool FontBold = false;
+  Color ForeColor = 0;
+  bool FontItalic = false, FontUnderline = false;
+  bool operator==(const LabelDefault&) const = default;
+};
+
+using TextTable = std::array<std::array<TextAreaRecord, AreasPerPage>, IndexedPages>;
+using LabelTable = std::array<std::array<LabelRecord, LabelsPerPage>, IndexedPages>;
+/// One string array per page: 36, 70, 70, 70, 70 and 6 of them.
+using PageTexts = std::array<std::vector<QString>, IndexedPages>;
+
+/// How many areas a page has, by page index 0 to 5.
+constexpr int AreaCount(int pageIndex) { return pageIndex == 0 ? 36 : pageIndex == 5 ? 6 : 70; }
+/// A slot before the first text is written, as the file's fixed fields are.
+QString BlankSlot();
+
+/// The font that areas take.
+struct UserFont {
+  QString FontName = QStringLiteral("Arial");
+  float FontSize = 10;
+  Color FontColor = 0;
+  bool FontItalic = false;
+  bool operator==(const UserFont&) const = default;
+};
+
+struct ProposalState {
+  PageTexts PageText, SavedText;
+  TextTable TextRec;
+  LabelTable LabelRec, LabelBackup;
+  std::array<std::vector<LabelDefault>, IndexedPages> DefaultLabels;
+
+  // All money is single precision; AreaAmount and AreaTaxable are by page index, then area.
+  std::array<std::array<float, AreasPerPage>, ItemPages> AreaAmount{}, AreaTaxable{};
+  std::array<float, ItemPages> PageSubTotal{}, PageTaxable{};
+  float SubTotal = 0, TaxableAmount = 0, SalesTax = 0, GrandTotal = 0, DepositReceived = 0, BalanceDue = 0;
+  float RunningTotal = 0, CheckTotal = 0;  ///< GrandTotal as each of the two calculations last had it
+  int HighestPage = 6;                     ///< pages in use, 2 to 6
+  UserFont UDP;
+
+  // File names, without a path.
+  QString BaseName, EventFileName, TextFileName, FootnoteFileName, DepositFileName;
+  QString FootnoteText;
+  QString CurrentFolder;  ///< the folder of the open file
+  bool FileIsNamed = false, SavingAs = false, SaveCancelled = false, BackupInProgress = false;
+  bool OpenedFromBackup = false;
+  QString Mode;      ///< "Event", "Wedding", or empty
+  QString Title;     ///< "Proposal for Emily Carter"
+  QString SubTitle;  ///< "Alder Events - Event Proposal - "
+  bool TitleByHand = false;  ///< a title made by hand stays until New or Open
+
+  QStringList PropertyLines;
+  QStringList SavedPropertyLines;  ///< as last written or read: a difference from what would be written is a change
+
+  // The logo of the open proposal.
+  QString LogoPath;
+  float LogoLeft = 0, LogoTop = 0;
+};
+
+/// The reusable format that may lie under a proposal.
+struct FormatState {
+  TextTable FormatTextRec;
+  LabelTable FormatLabelRec;
+  QString FormatName, FormatFolder;
+  bool FormatIsOpen = false, FormatSessionActive = false, FormatAsDefault = false, FormatSaveAs = false;
+  QString LogoPath;
+  float LogoLeft = 0, LogoTop = 0;
+  bool LogoChanged = false;
+  QStringList FormatLines;
+};
+
+struct EditingState {
+  int CurrentPage = 0;         ///< page index of the last area to have the focus
+  Page* CurrentForm = nullptr;  ///< frmP1 to frmP6, never frmP6_1
+  int FrontWindow = 0;         ///< the page in front, 0 to 6
+  QString CurrentFormName;     ///< "frmP1" to "frmP6", or "frmP6_1"
+  int CurrentArea = 0;
+  QString CurrentText, CurrentAreaType, CurrentAreaLimit;
+  float CurrentAreaWidth = 0;
+  int LastTextIndex = 35, LastLabelIndex = 45;
+  int CursorLocation = 0;
+  float PrinterTextPosition = 0;  ///< inches
+  QString LastKey;
+  int KeysSinceBackup = 0;
+  int MouseDownArea = 0;
+  bool TextOverflowing = false, PushPending = false, PushKeepCaret = false, PushMoveCaret = false;
+  bool SuppressAreaCaption = false, AutoCompleting = false, DateWarningGiven = false;
+  Control* Focus = nullptr;  ///< the control that has the focus, a page's or the frame's
+
+  // Guards.  Set them through Scoped, so that they return to what they were on every way out.
+  bool RecalcPending = false, AreasSelected = false, MovingContents = false, OpeningFile = false;
+  bool RebuildingPages = false, ApplyingFonts = false, CheckRunning = false, NewFile = false, Parsing = false;
+  bool StartingUp = false, Quitting = false, RecalcMarked = false, ActionCancelled = false;
+  bool SelectionMemoryFull = false;  ///< something has been copied
+  bool ColumnRebuild = false;
+
+  // Options.
+  bool HideTotals = false, UnderlineMainCategories = false, DoNotLockFormat = true;
+  bool SkipScrollChange = false, ButtonPressed = false;
+  float ScreenScale = 0;  ///< client height of the frame divided by the sheet's
+};
+
+struct PrintState {
+  float PrinterXOffset = 0, PrinterYOffset = 0;  ///< twips
+  bool PrintCancelled = false;
+  int NoPrinter = 0;
+  QStringList PrinterFontNames;
+  bool FontsLoaded = false;
+  float PrinterFontRatio = 1;
+  QString CurrentPrinter;  ///< device name
+};
+
+struct TaxState {
+  QString TaxRateText;  ///< at most five characters
+  float TaxRate = 0;    ///< percent
+  bool DialogOpen = false;
+};
+
+/// The settings, one member a line of UserPreferences.txt; see app/preferences.h.
+struct Preferences {
+  QStringList PrefLines;
+  bool Reading = false, Read = false;
+  bool FirstInstance = false;
+  QString SharedDirectory, CompanyName, CompanyAddress1, CompanyAddress2, CompanyCity, CompanyPhone, CompanyFax,
+      CompanyWebsite, CompanyEmail, PageTitle, LogoFile;
+  float LogoLeft = 0, LogoTop = 0;
+  bool AutoCompleteWord = false;
+  int AutoStartPosition = 0;
+  bool ShowFUT = false, MinimizeFUT = false, ShowCalc = false;
+  QString DefaultFileFormat;
+  bool LoadDefaultFormat = false;
+  QString DefaultPrinter, CurrencySymbol, FrequentTermsFile;
+  bool LoadFUT = false;
+  QString PageTitles;
+  float FUTLeft = 0, FUTTop = 0, FUTWidth = 0, FUTHeight = 0;
+  UserFont DefaultFont;
+  bool LogoVisible = false;
+
+  QString ProgramFolder, ProposalFolder, BackupFolder;  ///< each ends in a separator
+  QString LogoPath;                                     ///< LogoFile with its folder
+  bool SnfSettings = false;                             ///< the alternative first page; stays set for the run
+};
+
+/// The file dialog's state, and what the two list windows were told.
+struct FileDialogState {
+  QString FileFilter = QStringLiteral("*.wwf");
+  QString Caption, Folder;  ///< the dialog's own folder, with a separator
+  bool DeleteMode = false, FormatMode = false, IgnoreProperties = false;
+  QString SelectedFileName;
+};
+
+/// Frequent terms, as far as other subsystems ask.
+struct TermsState {
+  QString FileName;
+  bool FileLoaded = false;
+  bool AutoComplete = false;  ///< the working switch
+  int AutoStart = 0;          ///< the working start position
+};
+
+inline ProposalState proposal;
+inline FormatState format;
+inline EditingState editing;
+inline PrintState printing;
+inline TaxState tax;
+inline Preferences prefs;
+inline FileDialogState fileDialog;
+inline TermsState terms;
+
+/// Puts every struct above, the pages and the frame back to what they are at the program's start.
+void ResetState();
+
+/// Sets a flag for a scope and puts back what it was, on every way out.
+class Scoped {
+ public:
+  Scoped(bool& flag, bool value) : flag_(flag), before_(flag) { flag = value; }
+  ~Scoped() { flag_ = before_; }
+  Scoped(const Scoped&) = delete;
+  Scoped& operator=(const Scoped&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace quillane

@@ -1,0 +1,10 @@
+#include "model/upcalls.h"
+
+namespace quillane {
+
+Upcalls& upcalls() {
+  static Upcalls calls;
+  return calls;
+}
+
+}  // namespace quillane

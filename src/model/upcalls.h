@@ -1,0 +1,26 @@
+// The few calls that go up the layers, filled in at start by the layer that owns them.
+#pragma once
+#include <QString>
+
+namespace quillane {
+
+class Control;
+
+struct Upcalls {
+  void (*UpdatePageButtons)(int window) = [](int) {};           ///< app: bring a page to the front
+  void (*BackupThisFile)() = [] {};                             ///< files: the copy at the 20th key
+  void (*SaveEventFile)() = [] {};                              ///< files
+  void (*ResumeEditing)() = [] {};                              ///< print: leave the preview of the page in front
+  void (*ReAdjustScrollBar)(int window) = [](int) {};           ///< app
+  void (*FrequentTermsHook)(Control& area) = [](Control&) {};   ///< tools: a key was typed while auto-complete is on
+  bool (*AcceptGuess)(Control& area, int key, bool shift) = [](Control&, int, bool) { return false; };  ///< tools
+  void (*MoveContents)(bool down) = [](bool) {};                ///< pages: Shift + arrow over a selection
+  float (*PrinterWidth)(Control& area, const QString& text) = nullptr;  ///< print: inches; null without a printer
+  void (*OpenFormat)() = [] {};                                 ///< files: apply the open format to blank pages
+  void (*ReadTerms)() = [] {};                                  ///< tools: read terms.FileName
+  void (*PopUpTextMenu)(Control& area) = [](Control&) {};       ///< qt: mnuEditTextBox at the pointer
+  void (*SetEditMenuState)(const QString& state) = [](const QString&) {};  ///< pages: the text menu's states
+};
+Upcalls& upcalls();
+
+}  // namespace quillane

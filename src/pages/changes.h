@@ -1,0 +1,11 @@
+// The two halves of the changed state.
+#pragma once
+
+namespace quillane {
+
+bool TextHasChanged();
+bool PropertiesHaveChanged();
+/// Text or properties differ from what was last saved or read.
+inline bool ProposalHasChanged() { return TextHasChanged() || PropertiesHaveChanged(); }
+
+}  // namespace quillane

@@ -1,0 +1,28 @@
+// Printing pages.
+#pragma once
+#include <QString>
+
+namespace quillane {
+
+class Control;
+
+inline const QString PdfPrinter = QStringLiteral("PDF File");
+
+/// Prints the page named by editing.CurrentFormName on the current printer as a document of its own.
+void PrintTheForm();
+/// The commands: page 0 to 5, 6 for the copy.
+void PrintPageCommand(int window);
+void PrintAllCommand();
+/// frmDialog's "Cancel Print".
+void CancelPrint();
+/// Reads the printer's fonts at start, and finds out whether there is a printer.
+void LoadTheFonts();
+/// Asks the system again which printers there are; sets printing.NoPrinter and printing.CurrentPrinter.
+void FindPrinter();
+void ReadPrinterOffsets();
+/// The printed width of `text` in an area's font, in inches.
+float PrinterTextWidth(const Control& area, const QString& text);
+/// What frmDialog's lblMessage reads.
+const QString& PrintMessage();
+
+}  // namespace quillane
