@@ -1,5 +1,6 @@
 // frmMain as plain state: its labels, buttons and images, its menu entries, its scroll bar.
 #pragma once
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -7,9 +8,26 @@
 
 namespace quillane {
 
-/// VScroll1: slides the sheet under the frame.  Values are twips.
+/// A whole number that tells when it changes, as a scroll bar does whoever writes it.
+class ScrollValue {
+ public:
+  std::function<void(int)> changed;
+  operator int() const { return value_; }
+  ScrollValue& operator=(int value) {
+    if (value == value_) return *this;
+    value_ = value;
+    if (changed) changed(value);
+    return *this;
+  }
+
+ private:
+  int value_ = 0;
+};
+
+/// VScroll1: slides the sheet under the frame.  Values are twips.  Writing Value moves the sheet.
 struct ScrollBar {
-  int Value = 0, Max = 0, LargeChange = 0, SmallChange = 0;
+  ScrollValue Value;
+  int Max = 0, LargeChange = 0, SmallChange = 0;
 };
 
 class Frame {
@@ -17,10 +35,12 @@ class Frame {
   Frame();
   Form form;  ///< name "frmMain"; its caption is the window's title
   ScrollBar VScroll1;
+  float sheetTop = 0;  ///< twips from the top of the view to that of the sheet in front; 0 or negative
   float clientHeight = 10000;  ///< twips of the sheet that show; the window keeps it up to date
 
-  /// The control or menu entry of that name: "cmdReCalc", "lblTotal", "imgPage(3)", "mnuFileDelete".  A Menu control's
-  /// Caption, Visible, Enabled and Checked are the entry's.  Throws 5 for a name that the frame does not have.
+  /// The control or menu entry of that name: "cmdReCalc", "lblTotal", "imgPage(3)", "mnuFileDelete".  A Menu
+  /// control's Caption, Visible, Enabled and Checked are the entry's.  Throws 5 for a name that the frame
+  /// does not have.
   Control& operator[](const QString& name);
   Control* Find(const QString& name);
   Control& AddMenu(const QString& name, const QString& caption);

@@ -1,0 +1,58 @@
+#include "qt/program.h"
+
+#include <QApplication>
+
+#include "app/commands.h"
+#include "app/startup.h"
+#include "model/proposal.h"
+#include "platform/files.h"
+#include "qt/frame_window.h"
+
+namespace quillane {
+
+Program::Program(QtDesk& desk, const QString& programFolder, const QString& dataFolder) : desk_(desk) {
+  SetDesk(&desk_);
+  prefs.ProgramFolder = WithSeparator(programFolder);
+  ResetState();
+  SetDrivesFolder(prefs.ProgramFolder + QStringLiteral("drives"));
+  FillProgramFolder(prefs.ProgramFolder, dataFolder);
+  ConnectLayers();
+  BuildMenus();
+  desk_.showFrame = [this] { ShowFrame(); };
+  desk_.closeFrame = [this] { CloseFrame(); };
+}
+
+Program::~Program() {
+  desk_.CloseAllWindows();
+  desk_.showFrame = nullptr;
+  desk_.closeFrame = nullptr;
+  desk_.frameWindow = nullptr;
+}
+
+bool Program::Start(Splash splash) {
+  if (!Main()) return false;
+  if (splash == Splash::Show)
+    desk_.ShowWindow(QStringLiteral("frmSplash"), Modality::Modeless);
+  else
+    ShowFrame();
+  return !Ended();
+}
+
+bool Program::Ended() const {
+  return editing.Quitting;
+}
+
+void Program::ShowFrame() {
+  if (window_) return;
+  window_ = std::make_unique<FrameWindow>();
+  desk_.frameWindow = window_.get();
+  LoadMainFrame();
+  window_->show();
+}
+
+void Program::CloseFrame() {
+  if (window_) window_->hide();
+  QApplication::quit();
+}
+
+}  // namespace quillane

@@ -1,0 +1,191 @@
+#include "qt/qt_desk.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QImageReader>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QScreen>
+#include <QUrl>
+#include <algorithm>
+
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+#include "qt/windows.h"
+
+namespace quillane {
+
+namespace {
+constexpr float TwipsPerPixel = 15;
+
+QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::Ok:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+QWidget* BoxParent(QWidget* frame) {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  return frame && frame->isVisible() ? frame : nullptr;
+}
+}  // namespace
+
+QtDesk::QtDesk() {
+  sinceStart_.start();
+}
+QtDesk::~QtDesk() = default;
+
+Answer QtDesk::MessageBox(const QString& text, const QString& title, Buttons buttons) {
+  const auto icon = buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
+  QMessageBox box(icon, title, text, ButtonsOf(buttons), BoxParent(frameWindow));
+  // The program's texts are plain; a "<" in a file's name must not become markup.
+  box.setTextFormat(Qt::PlainText);
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::Ok:
+      return Answer::Ok;
+    case QMessageBox::No:
+      return Answer::No;
+    default:
+      return buttons == Buttons::Ok ? Answer::Ok : buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+  }
+}
+
+QString QtDesk::InputBox(const QString& prompt, const QString& title, const QString& preset) {
+  bool accepted = false;
+  const QString typed =
+      QInputDialog::getText(BoxParent(frameWindow), title, prompt, QLineEdit::Normal, preset, &accepted);
+  return accepted ? typed : QString();
+}
+
+void QtDesk::ShowWindow(const QString& name, Modality modality) {
+  if (name == QLatin1String("frmMain")) {
+    if (showFrame) showFrame();
+    return;
+  }
+  if (QDialog* open = OpenWindow(name)) {
+    open->show();
+    open->raise();
+    open->activateWindow();
+    return;
+  }
+  std::unique_ptr<QDialog> made = MakeWindow(name, BoxParent(frameWindow));
+  if (!made) return;
+  QDialog& window = *made;
+  opened_.push_back({name, std::move(made)});
+  if (modality == Modality::Modal) {
+    RunModal(window);
+    Forget(name);
+  } else {
+    QObject::connect(&window, &QDialog::finished, &window, [this, name] { Forget(name); });
+    window.show();
+  }
+}
+
+void QtDesk::RunModal(QDialog& window) {
+  window.exec();
+}
+
+void QtDesk::Forget(const QString& name) {
+  const auto found =
+      std::find_if(opened_.begin(), opened_.end(), [&](const Opened& opened) { return opened.name == name; });
+  if (found == opened_.end()) return;
+  // A window may close from one of its own handlers: it goes when that handler has returned.
+  found->window.release()->deleteLater();
+  opened_.erase(found);
+}
+
+void QtDesk::CloseWindow(const QString& name) {
+  if (name == QLatin1String("frmMain")) {
+    CloseAllWindows();
+    if (closeFrame) closeFrame();
+  } else if (QDialog* window = OpenWindow(name)) {
+    window->done(QDialog::Rejected);
+  }
+}
+
+void QtDesk::CloseAllWindows() {
+  for (size_t left = opened_.size(); left > 0; --left)
+    if (left <= opened_.size()) opened_[left - 1].window->done(QDialog::Rejected);
+}
+
+bool QtDesk::WindowIsOpen(const QString& name) const {
+  return name == QLatin1String("frmMain") ? frameWindow != nullptr : OpenWindow(name) != nullptr;
+}
+
+QDialog* QtDesk::OpenWindow(const QString& name) const {
+  for (const Opened& opened : opened_)
+    if (opened.name == name) return opened.window.get();
+  return nullptr;
+}
+
+QStringList QtDesk::OpenWindows() const {
+  QStringList names;
+  for (const Opened& opened : opened_) names.append(opened.name);
+  return names;
+}
+
+QString QtDesk::ClipboardText() const {
+  return QApplication::clipboard()->text();
+}
+void QtDesk::SetClipboardText(const QString& text) {
+  QApplication::clipboard()->setText(text);
+}
+
+bool QtDesk::OpenExternally(const QString& target) {
+  const bool isFile = QFileInfo::exists(target);
+  return QDesktopServices::openUrl(isFile ? QUrl::fromLocalFile(target) : QUrl(target));
+}
+
+QStringList QtDesk::PrinterNames() const {
+  return {};
+}
+QString QtDesk::DefaultPrinterName() const {
+  return {};
+}
+std::unique_ptr<Surface> QtDesk::BeginDocument(const QString&, const QString&, const QString&) {
+  Raise(errors::Printer);
+}
+
+QStringList QtDesk::ScreenFonts() const {
+  return QFontDatabase::families();
+}
+
+Picture QtDesk::LoadPicture(const QString& path) {
+  if (!QFileInfo::exists(path)) Raise(errors::FileNotFound, path);
+  const QSize size = QImageReader(path).size();
+  if (!size.isValid()) Raise(errors::InvalidPicture, path);
+  return {path, static_cast<float>(size.width()) * TwipsPerPixel,
+          static_cast<float>(size.height()) * TwipsPerPixel};
+}
+
+int QtDesk::ScreenWidth() const {
+  return QApplication::primaryScreen()->size().width();
+}
+int QtDesk::ScreenHeight() const {
+  return QApplication::primaryScreen()->size().height();
+}
+QDateTime QtDesk::Now() const {
+  return QDateTime::currentDateTime();
+}
+qint64 QtDesk::TickCount() const {
+  return sinceStart_.elapsed();
+}
+void QtDesk::ServeEvents() {
+  QApplication::processEvents();
+}
+void QtDesk::Beep() {
+  QApplication::beep();
+}
+
+}  // namespace quillane
