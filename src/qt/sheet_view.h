@@ -1,0 +1,133 @@
+// Shows the page in front and turns what a person does into the page's handlers.
+#pragma once
+#include <QPointF>
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+#include "model/page.h"
+#include "pages/areas.h"
+#include "print/draw.h"
+
+class QMimeData;
+
+namespace quillane {
+
+class LiveEditor;
+
+/// A press, a move or a release on the empty page or on a label.
+struct PageMouseEvent {
+  enum class What { Press, Move, Release, DoubleClick } what;
+  Page& page;
+  Control* label;  ///< the label under the pointer; null for the empty page
+  QPointF twips;
+  Qt::MouseButton button;
+  Qt::MouseButtons buttons;
+  Qt::KeyboardModifiers modifiers;
+};
+
+/// A page as a person sees it.  It paints the page with the drawing procedure that prints, keeps one live
+/// editor over the text box that has the focus, and passes keys, clicks and drops to the handlers of
+/// pages/areas.h.
+class SheetView : public QWidget, private FormObserver {
+  Q_OBJECT
+
+ public:
+  explicit SheetView(QWidget* parent = nullptr);
+  ~SheetView() override;
+
+  /// Shows the page of a window index, 0 to 6; the editor goes over the control that has the focus, if it is
+  /// there.
+  void ShowPage(int window);
+  int CurrentWindow() const { return window_; }
+
+  /// The sheet's top edge stands `twips` above the view's.
+  void SetScroll(int twips);
+  int Scroll() const { return scroll_; }
+  void SetZoom(double zoom);  ///< 1 shows an inch on 96 pixels
+  double TwipsPerPixel() const { return 15.0 / zoom_; }
+  void SetDrawMode(DrawMode mode);  ///< Printing shows the preview; there is no editor then
+
+  QPoint ToPixels(QPointF twips) const;
+  QPointF ToTwips(QPointF pixels) const;
+  QRect PixelRect(const Control& control) const;  ///< what the control covers on the screen
+
+  /// The live editor, hidden while no text box of this page has the focus.  It has the keyboard focus
+  /// otherwise.
+  QWidget* Editor() const;
+  /// The text box under the live editor; null for none.
+  Control* Focused() const { return focused_; }
+  /// Brings the live editor over a control; null takes it away.  The model calls it through
+  /// focusHandlers().moved.
+  void FocusControl(Control* control);
+  /// The topmost visible control at a place: a text box, a mark, a label or the logo; null for the empty
+  /// page.
+  Control* ControlAt(QPointF twips) const;
+
+  /// The wheel asks for a new value of VScroll1; without it the view scrolls itself.
+  std::function<void(int value)> scrollTo;
+  /// Presses, moves and releases on the empty page and on labels.
+  std::function<void(const PageMouseEvent&)> pageMouse;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  friend class LiveEditor;
+  enum class Step { Went, Stopped };  ///< Stopped: a handler took the key, or moved the focus
+
+  void BeforeChange(Control& control, Aspect aspect) override;
+  void AfterChange(Control& control, Aspect aspect) override;
+  void MarkStale(const Control& control);
+
+  void PaintSheet(QPainter& painter, const QRect& stale);
+  void PlaceEditor();
+  void ShowFocused();
+  void Reveal(const Control& control);
+  void CaretToControl();
+  void TakeFromControl();
+  void TextToControl();
+
+  Page& CurrentPage() const { return page(window_); }
+  void KeyDownEvent(QKeyEvent* event);
+  void KeyUpEvent(QKeyEvent* event);
+  Step RunKeyDown(const KeyEvent& key);
+  void Edit(QKeyEvent* event, const KeyEvent& key);
+  bool EditClipboard(QKeyEvent* event);
+  void Paste();
+  void Copy();
+  void TypeText(const QString& text);
+  void PressArea(Control& area, QMouseEvent* event);
+  void TellPage(PageMouseEvent::What what, QMouseEvent* event);
+
+  int window_ = 0;
+  int scroll_ = 0;
+  double zoom_ = 1;
+  double pan_ = 0;  ///< pixels by which a view narrower than the sheet is moved to the right
+  DrawMode mode_ = DrawMode::Editing;
+  LiveEditor* editor_;  ///< a child, owned by the widget tree
+  Control* focused_ = nullptr;
+  Control* pressed_ = nullptr;  ///< what the button went down on
+  bool pressedInEditor_ = false;
+  bool syncing_ = false;
+  int staleRects_ = 0;  ///< asked for since the last paint
+};
+
+/// The view of this process; null before it is made.
+SheetView* TheSheetView();
+
+}  // namespace quillane
