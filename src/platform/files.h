@@ -1,5 +1,6 @@
-// Files and folders.  A folder string ends in a separator; a stored path is taken with either separator; a name is
-// looked up exactly and then without regard to case, as the shared drives that these files come from do.
+// Files and folders.  A folder string ends in a separator; a stored path is taken with either separator; a
+// name is looked up exactly and then without regard to case, as the shared drives that these files come from
+// do.
 #pragma once
 #include <QByteArray>
 #include <QDateTime>
@@ -10,20 +11,21 @@ namespace quillane {
 
 /// The folder under which drive letters are found as links or folders: "drives/F" for "F:".
 void SetDrivesFolder(const QString& folder);
-/// Turns a stored path ("F:\Wedding Proposals\x.wft", either separator) into one of this machine: a drive letter
-/// becomes its folder under the drives folder, each component is matched exactly and then without regard to case;
-/// components that do not exist stay as written.  Throws 76 with a sentence that says how to set a missing letter up.
+/// Turns a stored path ("F:\Wedding Proposals\x.wft", either separator) into one of this machine: a drive
+/// letter becomes its folder under the drives folder, each component is matched exactly and then without
+/// regard to case; components that do not exist stay as written.  Throws 76 with a sentence that says how to
+/// set a missing letter up.
 QString ResolvePath(const QString& stored);
 /// `folder` with one separator at its end.
 QString WithSeparator(const QString& folder);
 
 /// True when a file folder + name exists (hidden and read-only included).
 bool FileExists(const QString& folder, const QString& name);
-/// True when `parent` has a sub-folder `name`, compared without regard to case.  Throws 76 when `parent` cannot be
-/// listed.
+/// True when `parent` has a sub-folder `name`, compared without regard to case.  Throws 76 when `parent`
+/// cannot be listed.
 bool FolderExists(const QString& parent, const QString& name);
-/// The names of the files in `folder` that match a pattern list such as "*.jpg;*.bmp", in name order without regard
-/// to case; hidden files are listed.  Throws 76 when the folder cannot be listed.
+/// The names of the files in `folder` that match a pattern list such as "*.jpg;*.bmp", in name order without
+/// regard to case; hidden files are listed.  Throws 76 when the folder cannot be listed.
 QStringList ListFiles(const QString& folder, const QString& patterns);
 QStringList ListFolders(const QString& folder);
 
@@ -32,9 +34,9 @@ QByteArray ReadWholeFile(const QString& path);
 /// Its lines without their ends (CR LF or LF).
 QList<QByteArray> ReadFileLines(const QString& path);
 
-/// Replaces `path` by `bytes`: writes beside it under a hidden name, flushes, syncs, renames over the old file and
-/// syncs the folder.  The old file is there until the new one is whole.  Throws 61, 70, 75 or 76 and leaves the old
-/// file.  A name that differs from an existing file's only in case replaces that file.
+/// Replaces `path` by `bytes`: writes beside it under a hidden name, flushes, syncs, renames over the old
+/// file and syncs the folder.  The old file is there until the new one is whole.  Throws 61, 70, 75 or 76 and
+/// leaves the old file.  A name that differs from an existing file's only in case replaces that file.
 void ReplaceFile(const QString& path, const QByteArray& bytes);
 /// Writes `bytes` at `position` (counted from 1) without truncating the file; creates it where it is missing.
 void WriteAt(const QString& path, qint64 position, const QByteArray& bytes);
@@ -46,8 +48,8 @@ void RenameFile(const QString& from, const QString& to);
 void MakeFolder(const QString& path);
 QDateTime FileTime(const QString& path);
 
-/// A test's way to make a step of a write fail: called with "open", "write", "flush", "sync", "rename", "syncdir" and
-/// the path before each; returns an errno value to fail with, or 0.
+/// A test's way to make a step of a write fail: called with "open", "write", "flush", "sync", "rename",
+/// "syncdir" and the path before each; returns an errno value to fail with, or 0.
 using FaultHook = int (*)(const char* step, const QString& path);
 void SetFaultHook(FaultHook hook);
 
