@@ -1,6 +1,7 @@
 // The few calls that go up the layers, filled in at start by the layer that owns them.
 #pragma once
 #include <QString>
+#include <QStringList>
 
 namespace quillane {
 
@@ -10,6 +11,8 @@ struct Upcalls {
   void (*UpdatePageButtons)(int window) = [](int) {};           ///< app: bring a page to the front
   void (*BackupThisFile)() = [] {};                             ///< files: the copy at the 20th key
   void (*SaveEventFile)() = [] {};                              ///< files
+  QStringList (*PropertyLinesNow)() = [] { return QStringList(); };  ///< files: the lines that a save would write
+  void (*SaveTaxRate)() = [] {};                                ///< files: writes and announces the new rate
   void (*ResumeEditing)() = [] {};                              ///< print: leave the preview of the page in front
   void (*ReAdjustScrollBar)(int window) = [](int) {};           ///< app
   void (*FrequentTermsHook)(Control& area) = [](Control&) {};   ///< tools: a key was typed while auto-complete is on

@@ -1,6 +1,10 @@
 #include "pages/changes.h"
 
 namespace quillane {
-bool TextHasChanged() { return false; }
-bool PropertiesHaveChanged() { return false; }
+bool TextHasChanged() {
+  return false;
+}
+bool PropertiesHaveChanged() {
+  return false;
+}
 }  // namespace quillane

@@ -3,5 +3,7 @@
 namespace quillane {
 void SaveTextBoxFeatures() {}
 void SyncQtyFlags() {}
-QString StoredForm(const Page&, int) { return {}; }
+QString StoredForm(const Page&, int) {
+  return {};
+}
 }  // namespace quillane

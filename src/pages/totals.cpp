@@ -5,7 +5,9 @@ void CalculateMyTotals(Page&) {}
 void CalculateAllPages() {}
 void RecalculateTotals(int) {}
 void CheckAddition() {}
-bool CheckTheTotals() { return true; }
+bool CheckTheTotals() {
+  return true;
+}
 void AmountTextChanged(Page&, Control&) {}
 void AmountLeft(Page&, Control&) {}
 void MultiplyRow(Page&, int, Product) {}

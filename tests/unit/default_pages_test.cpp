@@ -1,0 +1,280 @@
+// The factory state of the pages, as a person would check it against a printed specimen.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "fake_desk.h"
+#include "model/frame.h"
+#include "model/page.h"
+#include "model/proposal.h"
+#include "pages/defaults.h"
+#include "platform/runtime_error.h"
+
+using namespace quillane;
+
+namespace {
+
+class DefaultPages : public testing::Test {
+ protected:
+  void SetUp() override {
+    ResetState();
+    prefs.CompanyName = "Alder Events";
+    prefs.CompanyAddress1 = "12 Alder Street";
+    prefs.CompanyCity = "Bend, OR 97701";
+    prefs.CompanyPhone = "(541) 555-0100";
+    prefs.CompanyFax = "(541) 555-0101";
+    prefs.PageTitle = "Event Proposal";
+    prefs.CurrencySymbol = "$";
+    proposal.SubTitle = "Alder Events - Event Proposal - ";
+    SetUpPages();
+    Show();
+  }
+  static void Show() {
+    const Scoped rebuilding(editing.RebuildingPages, true);
+    ShowDefaultPages();
+  }
+  test::FakeDesk desk_;
+};
+
+struct LabelCase {
+  const char* name;
+  float left, top, size;
+  bool bold;
+  const char* caption;
+};
+
+void ExpectLabels(const std::vector<LabelCase>& cases) {
+  for (const LabelCase& c : cases) {
+    SCOPED_TRACE(c.name);
+    const Control* label = FindPageControl(c.name);
+    ASSERT_TRUE(label);
+    EXPECT_EQ(label->Caption(), c.caption);
+    EXPECT_FLOAT_EQ(label->Left(), c.left);
+    EXPECT_FLOAT_EQ(label->Top(), c.top);
+    EXPECT_EQ(label->GetFont(), (Font{"Times New Roman", c.size, c.bold, true, false}));
+    EXPECT_TRUE(label->Visible());
+  }
+}
+
+TEST_F(DefaultPages, PutTellingLabelsWhereTheyBelong) {
+  ExpectLabels({
+      {"frmP1.lbl(0)", 3420, 720, 12, true, "Alder Events"},
+      {"frmP1.lbl(1)", 3420, 990, 9.75F, false, "12 Alder Street"},
+      {"frmP1.lbl(2)", 3420, 1260, 9.75F, false, ""},
+      {"frmP1.lbl(5)", 3420, 2070, 9.75F, false, "(541) 555-0101"},
+      {"frmP1.lbl(9)", 7500, 1530, 9.75F, false, "Spare"},
+      {"frmP1.lbl(10)", 4500, 2880, 12, true, "Event Proposal"},
+      {"frmP1.lbl(11)", 720, 3060, 9.75F, true, "Wedding Date"},
+      {"frmP1.lbl(20)", 720, 6300, 9.75F, true, "Groom Information"},
+      {"frmP1.lbl(26)", 6300, 7560, 9.75F, false, "Email Address:"},
+      {"frmP1.lbl(30)", 720, 9885, 9.75F, true, "Reception Information"},
+      {"frmP1.lbl(34)", 6300, 10785, 9.75F, false, "Time:"},
+      {"frmP1.lbl(35)", 10080, 11655, 9.75F, true, "$"},
+      {"frmP1.lbl(42)", 10080, 14175, 9.75F, true, "$"},
+      {"frmP1.lbl(43)", 720, 15030, 9.75F, true, "Page 1 of 6"},
+      {"frmP1.lbl(45)", 4860, 15030, 9.75F, true, "Proposal for (Client's Name)"},
+      {"frmP3.lbl(0)", 3130, 540, 14, false, "Alder Events - Event Proposal - Page 3"},
+      {"frmP3.lbl(35)", 9900, 14040, 9.75F, true, "$"},
+      {"frmP5.lbl(36)", 720, 15030, 9.75F, true, "Page 5 of 6"},
+      {"frmP6.lbl(0)", 3060, 540, 14, false, "Alder Events - Event Proposal - Page 7"},
+      {"frmP6.lbl(3)", 1080, 2160, 9.75F, true, "Sales Tax"},
+      {"frmP6.lbl(5)", 3060, 1800, 9.75F, true, "$"},
+      {"frmP6.lbl(8)", 7560, 1800, 9.75F, true, "Deposit Received"},
+      {"frmP6.lbl(12)", 9720, 2160, 9.75F, true, "$"},
+      {"frmP6.lbl(47)", 720, 12060, 9.75F, false,
+       " Contract Language Line 35 - Edit this Label by right-clicking or by opening the Contract Language "
+       "Editor "
+       "under Manage."},
+      {"frmP6.lbl(48)", 720, 12960, 9.75F, false, "____________________________________________"},
+      {"frmP6.lbl(51)", 720, 14130, 9.75F, false, "Representative for Alder Events"},
+      {"frmP6.lbl(54)", 5850, 13860, 9.75F, false, "_______________"},
+      {"frmP6.lbl(59)", 8010, 13590, 9.75F, false, ""},
+      {"frmP6.lbl(60)", 8010, 13590, 9.75F, false, "Bend, OR 97701"},
+      {"frmP6.lbl(62)", 8010, 14130, 9.75F, false, "(541) 555-0101"},
+      {"frmP6.lbl(63)", 900, 15030, 9.75F, true, "Page 6 of 6"},
+      {"frmP6.lbl(64)", 5310, 15030, 9.75F, true, "Proposal for (Client's Name) - Our Copy"},
+      {"frmP6_1.lbl(64)", 5310, 15030, 9.75F, true, "Proposal for (Client's Name) - Client's Copy"},
+  });
+}
+
+TEST_F(DefaultPages, EndTheContinuationAtTheAmountsRightEdge) {
+  for (int window = 0; window < 5; ++window) {
+    Page& p = page(window);
+    const Control& label = p.lbl[p.lbl.size() - 2];
+    EXPECT_EQ(label.Caption(), QString("Continued on Page %1").arg(window + 2));
+    EXPECT_FLOAT_EQ(label.Left() + label.Width(), p.txt.back().Left() + p.txt.back().Width());
+    EXPECT_FLOAT_EQ(label.Top(), 15030);
+  }
+}
+
+TEST_F(DefaultPages, MakeRoomForASecondAddressLine) {
+  prefs.CompanyAddress2 = "Suite 4";
+  Show();
+  ExpectLabels({{"frmP1.lbl(2)", 3420, 1260, 9.75F, false, "Suite 4"},
+                {"frmP6.lbl(59)", 8010, 13590, 9.75F, false, "Suite 4"},
+                {"frmP6_1.lbl(60)", 8010, 13860, 9.75F, false, "Bend, OR 97701"},
+                {"frmP6.lbl(62)", 8010, 14400, 9.75F, false, "(541) 555-0101"}});
+}
+
+TEST_F(DefaultPages, ChangeToTheAlternativeLayout) {
+  prefs.SnfSettings = true;
+  Show();
+  ExpectLabels(
+      {{"frmP1.lbl(0)", 1080, 1080, 9.75F, true, ""},
+       {"frmP1.lbl(5)", 1080, 2880, 9.75F, true, ""},
+       {"frmP1.lbl(6)", 7560, 2160, 9.75F, true, ""},
+       {"frmP1.lbl(10)", 4500, 2880, 9.75F, true, ""},
+       {"frmP1.lbl(11)", 720, 3060, 9.75F, true, "Wedding Date"},
+       {"frmP6.lbl(13)", 720, 2880, 9.75F, false,
+        "All creative ideas in this proposal are the sole property of Alder Events"},
+       {"frmP6.lbl(39)", 720, 9900, 9.75F, false,
+        "Both Alder Events and the Client have read and understood the terms, conditions, and prices as "},
+       {"frmP6.lbl(42)", 720, 10710, 9.75F, false,
+        "** Please note that if this is not returned by ____________ there can not be any major changes made "
+        "to this event."},
+       {"frmP6.lbl(43)", 720, 10980, 9.75F, false, ""}});
+  EXPECT_EQ(DefaultContractLines().size(), 35);
+}
+
+TEST_F(DefaultPages, PutBackWhatWasChanged) {
+  Page& second = page(1);
+  LoadColumns(second);
+  second.lbl[3].SetLeft(100);
+  second.lbl[3].SetForeColor(colors::Red);
+  second.txt[5].SetFontBold(true);
+  ShowRowColumns(second, 5, true);
+  second.txtQty[5].SetText("12");
+  page(0).txt[2].SetFontBold(true);
+  Show();
+  EXPECT_EQ(second.lbl[3].Left(), 9900);
+  EXPECT_EQ(second.lbl[3].ForeColor(), colors::Black);
+  EXPECT_FALSE(second.txt[5].GetFont().bold);
+  EXPECT_FALSE(page(0).txt[2].GetFont().bold);
+  EXPECT_FALSE(second.HasColumns(5));
+  EXPECT_EQ(second.txtQty[5].Text(), "Qty.");
+  EXPECT_TRUE(second.txtQty[5].Hidden());
+  EXPECT_FALSE(second.lblAt[5].Visible());
+  // Only rows take the rows' place: amounts and the client's fields stay where they are.
+  EXPECT_EQ(page(0).txt[28].Left(), 10260);
+  EXPECT_EQ(page(0).txt[28].Width(), 1260);
+  EXPECT_EQ(page(0).txt[2].Left(), 2340);
+}
+
+TEST_F(DefaultPages, StoreWhatTheyPut) {
+  ASSERT_EQ(proposal.DefaultLabels[0].size(), 46U);
+  ASSERT_EQ(proposal.DefaultLabels[4].size(), 39U);
+  ASSERT_EQ(proposal.DefaultLabels[5].size(), 65U);
+  const LabelDefault expected{7560, 2160, "Balance Due", "Times New Roman", 9.75F, true, 0, true, false};
+  EXPECT_EQ(proposal.DefaultLabels[5][9], expected);
+  EXPECT_EQ(proposal.DefaultLabels[5][64].Caption, "Proposal for (Client's Name) - Our Copy");
+}
+
+TEST_F(DefaultPages, ShowOnlyWhatIsNotHidden) {
+  Page& first = page(0);
+  first.lbl[40].SetShown(false);
+  first.lbl[41].SetVisible(false);
+  first.txt[7].SetVisible(false);
+  prefs.LogoVisible = true;
+  ShowPageControls(first);
+  EXPECT_FALSE(first.lbl[40].Visible());
+  EXPECT_TRUE(first.lbl[41].Visible());
+  EXPECT_TRUE(first.txt[7].Visible());
+  EXPECT_FALSE(first.pic[0].Visible()) << "there is no picture yet";
+  first.pic[0].SetPicture({"events.jpg", 900, 600});
+  ShowPageControls(first);
+  EXPECT_TRUE(first.pic[0].Visible());
+  prefs.LogoVisible = false;
+  ShowPageControls(first);
+  EXPECT_TRUE(first.pic[0].Hidden());
+  page(5).lbl[4].SetVisible(false);
+  ShowPageControls(page(5));
+  EXPECT_TRUE(page(5).lbl[4].Visible());
+}
+
+TEST_F(DefaultPages, TakeBoldFromAnOpenFormatOnly) {
+  format.FormatTextRec[2][7].FontBold = true;
+  ShowPageControls(page(2));
+  EXPECT_FALSE(page(2).txt[7].GetFont().bold);
+  format.FormatIsOpen = true;
+  ShowPageControls(page(2));
+  EXPECT_TRUE(page(2).txt[7].GetFont().bold);
+  EXPECT_FALSE(page(2).txt[8].GetFont().bold);
+}
+
+TEST_F(DefaultPages, RuleBlocksFiguresAndContract) {
+  Page& first = page(0);
+  QList<int> shown;
+  for (const Control& line : first.lne)
+    if (line.Visible() && !line.Hidden()) shown.append(line.Index());
+  EXPECT_EQ(shown, (QList<int>{0, 2, 5, 7, 10, 12, 15, 17}));
+  // A block's two rules stand between its heading and its fields, and between its fields and the next
+  // heading.
+  constexpr int Blocks[][4] = {{13, 2, 4, 20}, {20, 8, 10, 27}, {27, 14, 14, 30}, {30, 16, 18, 35}};
+  for (int block = 0; block < 4; ++block) {
+    const auto at = [](const std::vector<Control>& array, int i) { return array[static_cast<size_t>(i)]; };
+    const float under = at(first.lne, block * 5).Top(), closing = at(first.lne, block * 5 + 2).Top();
+    const auto& [heading, firstField, lastField, next] = Blocks[block];
+    EXPECT_GT(under, at(first.lbl, heading).Top() + at(first.lbl, heading).Height());
+    EXPECT_LT(under, at(first.txt, firstField).Top());
+    EXPECT_GT(closing, at(first.txt, lastField).Top() + 255);
+    EXPECT_LT(closing, at(first.lbl, next).Top());
+  }
+  // No rule of the totals page runs through a label or a figure.
+  for (int window : {5, 6})
+    for (const Control& line : page(window).lne) {
+      SCOPED_TRACE(line.FullName().toStdString());
+      EXPECT_TRUE(line.Visible());
+      EXPECT_GT(line.Width() + line.Height(), 0);
+      for (const Control* control : page(window).Controls()) {
+        if (control->Array() != "lbl" && control->Array() != "txt") continue;
+        if (line.Width() == 0) continue;
+        const bool across =
+            line.Left() < control->Left() + control->Width() && control->Left() < line.Left() + line.Width();
+        const bool through = line.Top() > control->Top() && line.Top() < control->Top() + control->Height();
+        EXPECT_FALSE(across && through) << control->FullName().toStdString();
+      }
+    }
+}
+
+TEST_F(DefaultPages, RowsGetAndLoseTheirColumnsWhole) {
+  Page& second = page(1);
+  LoadColumns(second);
+  EXPECT_TRUE(second.columnsLoaded);
+  ShowRowColumns(second, 3, true);
+  EXPECT_EQ(second.txt[3].Left(), 1260);
+  EXPECT_EQ(second.txt[3].Width(), 6630);
+  EXPECT_EQ(second.lblAt[3].Caption(), "@ $");
+  EXPECT_EQ(second.lblEach[3].Caption(), "ea.");
+  for (const Control* control :
+       {&second.txtQty[3], &second.txtAmt[3], &second.lblAt[3], &second.lblEach[3]}) {
+    EXPECT_TRUE(control->Visible());
+    EXPECT_FALSE(control->Hidden());
+    EXPECT_EQ(control->Top(), second.txt[3].Top());
+  }
+  ShowRowColumns(second, 3, false);
+  EXPECT_EQ(second.txt[3].Left(), 720);
+  EXPECT_EQ(second.txt[3].Width(), 9000);
+  EXPECT_TRUE(second.txtAmt[3].Hidden());
+  ShowRowColumns(page(0), 2, true);
+  EXPECT_EQ(page(0).txt[2].Width(), 3600) << "a client's field is no row";
+}
+
+TEST_F(DefaultPages, ReportColumnsThatFail) {
+  page(3).form.textChanged = [](Control&) { Raise(errors::Subscript); };
+  LoadColumns(page(3));
+  EXPECT_EQ(desk_.LastSaid(), "Error in loading columns on Page 4.");
+  EXPECT_FALSE(page(3).columnsLoaded);
+  EXPECT_FALSE(editing.RebuildingPages);
+}
+
+TEST_F(DefaultPages, TakeTheUsersFontAndKeepBold) {
+  proposal.UDP = {"Georgia", 9, 0x336699, true};
+  page(1).txt[4].SetFontBold(true);
+  SetMyFonts(page(1));
+  EXPECT_EQ(page(1).txt[4].GetFont(), (Font{"Georgia", 9, true, true, false}));
+  EXPECT_EQ(page(1).txtAmt[4].GetFont(), (Font{"Georgia", 9, false, true, false}));
+  EXPECT_EQ(page(1).txt[4].ForeColor(), 0x336699);
+  EXPECT_EQ(page(1).lblAt[4].GetFont().name, "Arial");
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+// Titles, page numbers and the count of pages in use.
+#include "pages/titles.h"
+
+#include <gtest/gtest.h>
+
+#include "fake_desk.h"
+#include "model/frame.h"
+#include "model/page.h"
+#include "model/proposal.h"
+#include "pages/defaults.h"
+
+using namespace quillane;
+
+namespace {
+
+class TitlesOfPages : public testing::Test {
+ protected:
+  void SetUp() override {
+    ResetState();
+    proposal.SubTitle = "Alder Events - ";
+    ShowDefaultPages();
+  }
+  static float CentreOf(const Control& label) { return label.Left() + label.Width() / 2; }
+  test::FakeDesk desk_;
+};
+
+TEST_F(TitlesOfPages, CountThePagesInUse) {
+  struct Case {
+    int window, area, highest;
+  };
+  FindHighestPage();
+  EXPECT_EQ(proposal.HighestPage, 6) << "no text: the count stays";
+  for (const Case& c : {Case{0, 2, 2}, Case{1, 0, 3}, Case{2, 69, 4}, Case{3, 34, 5}, Case{4, 12, 6}}) {
+    page(c.window).txt[static_cast<size_t>(c.area)].SetText("x");
+    FindHighestPage();
+    EXPECT_EQ(proposal.HighestPage, c.highest);
+  }
+  page(4).txt[12].SetText("  ");
+  FindHighestPage();
+  EXPECT_EQ(proposal.HighestPage, 5) << "blanks are no text";
+}
+
+TEST_F(TitlesOfPages, NumberThePagesByThoseInUse) {
+  for (int highest = 2; highest <= 6; ++highest) {
+    SCOPED_TRACE(highest);
+    proposal.HighestPage = highest;
+    UpdatePageNumbers();
+    const QString of = QString(" of %1").arg(highest), last = QString("Page %1").arg(highest);
+    EXPECT_EQ(page(0).lbl[43].Caption(), "Page 1" + of);
+    EXPECT_EQ(page(3).lbl[36].Caption(), "Page 4" + of);
+    EXPECT_EQ(page(5).lbl[63].Caption(), last + of);
+    EXPECT_EQ(page(6).lbl[63].Caption(), last + of);
+    EXPECT_EQ(page(1).lbl[0].Caption(), "Alder Events - Page 2");
+    EXPECT_EQ(page(5).lbl[0].Caption(), "Alder Events - " + last);
+    EXPECT_EQ(page(6).lbl[0].Caption(), "Alder Events - " + last);
+    for (int window = 1; window < PageCount; ++window) EXPECT_FLOAT_EQ(CentreOf(page(window).lbl[0]), 6120);
+    EXPECT_EQ(frame()["lblHighestPage"].Caption(), QString("Utilizing %1 of 6 Available Pages").arg(highest));
+  }
+  EXPECT_TRUE(proposal.LabelRec[1][0].Caption.isEmpty());
+  UpdatePageNumbers(Titles::Reset);
+  EXPECT_EQ(proposal.LabelRec[1][0].Caption, "Alder Events - Page 2");
+  EXPECT_EQ(proposal.LabelRec[5][63].Top, 15030);
+  EXPECT_FALSE(proposal.LabelRec[1][0].Changed);
+}
+
+TEST_F(TitlesOfPages, WriteTheTitleEverywhere) {
+  UpdateEventNameLabels();
+  EXPECT_EQ(proposal.Title, "Proposal for (Client's Name)");
+  proposal.Title = "Proposal for Emily Carter";
+  proposal.EventFileName = "Emily Carter.wwf";
+  UpdateEventNameLabels();
+  EXPECT_EQ(page(0).lbl[45].Caption(), "Proposal for Emily Carter");
+  EXPECT_EQ(page(4).lbl[38].Caption(), "Proposal for Emily Carter");
+  EXPECT_EQ(page(5).lbl[64].Caption(), "Proposal for Emily Carter - Our Copy");
+  EXPECT_EQ(page(6).lbl[64].Caption(), "Proposal for Emily Carter - Client's Copy");
+  for (int window = 0; window < PageCount; ++window) EXPECT_FLOAT_EQ(CentreOf(page(window).lbl.back()), 6120);
+  EXPECT_EQ(frame()["lblEvent"].Caption(), "Title: Proposal for Emily Carter");
+  EXPECT_EQ(frame().form.caption, "Quillane: File Name = Emily Carter.wwf");
+  EXPECT_FALSE(proposal.LabelRec[0][45].Changed);
+  EXPECT_TRUE(proposal.LabelRec[0][45].Caption.isEmpty());
+  EXPECT_EQ(proposal.LabelRec[5][64].FontName, "Times New Roman");
+  format.FormatIsOpen = true;
+  format.FormatName = "Spring.wft";
+  UpdateEventNameLabels();
+  EXPECT_EQ(frame().form.caption, "Quillane: Format File = Spring.wft / File Name = Emily Carter.wwf");
+}
+
+TEST_F(TitlesOfPages, StoreATitleMadeByHandOnce) {
+  proposal.Title = "The Carter Wedding";
+  proposal.TitleByHand = true;
+  UpdateEventNameLabels();
+  LabelRecord& record = proposal.LabelRec[0][45];
+  EXPECT_TRUE(record.Changed);
+  EXPECT_FALSE(record.Written);
+  EXPECT_EQ(record.Caption, "The Carter Wedding");
+  record.Written = true;
+  UpdateEventNameLabels();
+  EXPECT_TRUE(record.Written) << "refreshing it is no change";
+  proposal.Title = "Carter and Okafor";
+  UpdateEventNameLabels();
+  EXPECT_FALSE(record.Written);
+}
+
+TEST_F(TitlesOfPages, LeaveALabelThatWasMovedWhereItIs) {
+  UpdateEventNameLabels();
+  Control& moved = page(2).lbl[38];
+  moved.SetLeft(700);
+  proposal.LabelRec[2][38].Changed = true;
+  proposal.Title = "Proposal for Emily Carter";
+  UpdateEventNameLabels();
+  EXPECT_EQ(moved.Left(), 700);
+  EXPECT_EQ(moved.Caption(), "Proposal for Emily Carter");
+  EXPECT_EQ(proposal.LabelRec[2][38].Caption, "Proposal for Emily Carter")
+      << "a marked record follows its label";
+}
+
+}  // namespace
