@@ -14,7 +14,8 @@ fail() { say "$*"; exit 1; }
 # The names among the arguments that are not installed.
 missing_packages() {
   local installed
-  installed=$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | sed -n 's/ installed$//p')
+  # A package that dpkg has never heard of is a failure to it, and to us the very thing looked for.
+  installed=$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | sed -n 's/ installed$//p') || true
   local name
   for name in "$@"; do grep -qxF "$name" <<<"$installed" || printf '%s\n' "$name"; done
 }
