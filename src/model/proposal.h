@@ -131,6 +131,11 @@ struct EditingState {
   int MouseDownArea = 0;
   bool TextOverflowing = false, PushPending = false, PushKeepCaret = false, PushMoveCaret = false;
   bool SuppressAreaCaption = false, AutoCompleting = false, DateWarningGiven = false;
+  bool Typing = false;     ///< the next change of the area with the focus is a character that was typed
+  bool Cascading = false;  ///< words are being pushed: the areas that they reach push in their turn
+  int SelectedTextStart = 0, SelectedTextLength = 0;  ///< the character selection when the text menu's states were set
+  int MoveRow = -1;           ///< the row last written by a move
+  bool UndoAvailable = false;  ///< a delete may be undone
   Control* Focus = nullptr;  ///< the control that has the focus, a page's or the frame's
 
   // Guards.  Set them through Scoped, so that they return to what they were on every way out.

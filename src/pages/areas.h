@@ -1,4 +1,5 @@
-// What happens while a person types on a page.
+// What happens while a person types on a page.  The bodies stand by theme: areas_focus, areas_keys,
+// areas_walk, areas_text, areas_push, areas_columns, areas_mouse, areas_menu, areas_status, scrolling.
 #pragma once
 #include "model/page.h"
 
@@ -6,8 +7,9 @@ namespace quillane {
 
 /// The keys that have a number here; the viewer translates.
 namespace keys {
-inline constexpr int Backspace = 8, Tab = 9, Enter = 13, PageUp = 33, PageDown = 34, End = 35, Home = 36, Left = 37,
-                     Up = 38, Right = 39, Down = 40, Insert = 45, Delete = 46, F5 = 116, F6 = 117, F8 = 119;
+inline constexpr int Backspace = 8, Tab = 9, Enter = 13, PageUp = 33, PageDown = 34, End = 35, Home = 36,
+                     Left = 37, Up = 38, Right = 39, Down = 40, Insert = 45, Delete = 46, F5 = 116, F6 = 117,
+                     F8 = 119;
 }
 
 struct KeyEvent {
@@ -20,8 +22,8 @@ enum class Handled { Yes, No };  ///< No: the editor does with the key what edit
 /// Connects the pages' change and focus handlers; once after CreatePages.
 void InstallPageHandlers();
 
-// The handlers, in the order in which the viewer calls them for one key: the page, the control, the character, and
-// after the editor has done its part, the release.
+// The handlers, in the order in which the viewer calls them for one key: the page, the control, the
+// character, and after the editor has done its part, the release.
 Handled FormKeyDown(Page& page, const KeyEvent& event);
 Handled KeyDown(Control& control, const KeyEvent& event);
 Handled KeyPress(Control& control, const KeyEvent& event);
