@@ -1,8 +1,104 @@
 #include "app/commands.h"
 
+#include <QHash>
+
+#include "app/startup.h"
+#include "model/focus.h"
+#include "model/frame.h"
+#include "model/proposal.h"
+#include "model/report.h"
+#include "model/upcalls.h"
+#include "print/print.h"
+
 namespace quillane {
-const std::vector<Command>& Commands() { static const std::vector<Command> none; return none; }
-void BuildMenus() {}
-void RunCommand(const QString&) {}
-void FrameClicked(const QString&) {}
+
+namespace {
+
+const QHash<QString, const Command*>& ByName() {
+  static const QHash<QString, const Command*> table = [] {
+    QHash<QString, const Command*> built;
+    for (const Command& command : Commands())
+      if (*command.name) built.insert(QString::fromLatin1(command.name), &command);
+    return built;
+  }();
+  return table;
+}
+
+/// The menu entry behind each button and image of the tool bar.
+struct Shortcut {
+  const char *control, *entry;
+};
+constexpr Shortcut ToolBar[] = {
+    {"imgNew", "mnuFileNewEvent"},
+    {"imgOpen", "mnuFileOpenEvent"},
+    {"imgFootNotes", "mnuFileOpenFootnotes"},
+    {"imgSave", "mnuFileSaveEvent"},
+    {"imgSaveAs", "mnuFileSaveAs"},
+    {"imgPrint", "mnuFilePrintAll"},
+    {"imgSearch", "mnuEditFind"},
+    {"imgSpellCheck", "mnuEditSpellCheck"},
+    {"cmdTaxRate", "mnuOptSalesTax"},
+    {"cmdReCalc", "mnuToolsRecalculate"},
+    {"cmdPreview", "mnuFilePrintPreview"},
+    {"cmdClearMem", "mnuEditTextDeselect"},
+};
+
+QString EntryBehind(const QString& control) {
+  for (const Shortcut& shortcut : ToolBar)
+    if (control == QLatin1String(shortcut.control)) return QString::fromLatin1(shortcut.entry);
+  return {};
+}
+
+float PrintedWidth(Control& area, const QString& text) {
+  return PrinterTextWidth(area, text);
+}
+
+}  // namespace
+
+bool CommandExists(const QString& name) {
+  const Command* command = ByName().value(name);
+  return command && command->run;
+}
+
+void EnableEntry(const QString& name, bool enabled) {
+  frame()[name].SetEnabled(enabled && CommandExists(name));
+}
+
+void BuildMenus() {
+  for (const Command& command : Commands()) {
+    if (!*command.name) continue;
+    Control& entry = frame().AddMenu(QString::fromLatin1(command.name), QString::fromLatin1(command.caption));
+    entry.SetVisible(command.visible);
+    entry.SetEnabled(command.enabled);
+    entry.SetChecked(command.checked);
+  }
+  // A button whose command is not there yet must not look as if it worked.
+  for (const Shortcut& shortcut : ToolBar)
+    if (!CommandExists(QString::fromLatin1(shortcut.entry)))
+      frame()[QString::fromLatin1(shortcut.control)].SetEnabled(false);
+}
+
+void RefreshPrinterWidth() {
+  upcalls().PrinterWidth = printing.NoPrinter == 0 ? &PrintedWidth : nullptr;
+}
+
+void RunCommand(const QString& name) {
+  const Command* command = ByName().value(name);
+  if (!command || !command->run || !frame()[name].Enabled()) return;
+  Guarded(command->name, command->run);
+  if (!editing.Quitting) RefreshPrinterWidth();
+}
+
+void FrameClicked(const QString& control) {
+  Control& clicked = frame()[control];
+  if (!clicked.Visible() || !clicked.Enabled()) return;
+  if (control.startsWith(QLatin1String("imgPage("))) {
+    UpdatePageButtons(control.mid(8, 1).toInt());
+    return;
+  }
+  // Buttons take the focus as buttons do, so the area that had it is left; images do not.
+  if (clicked.GetKind() == Kind::Button) Guarded("cmd_Click", [&] { SetFocus(clicked); });
+  RunCommand(EntryBehind(control));
+}
+
 }  // namespace quillane

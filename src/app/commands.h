@@ -5,8 +5,8 @@
 
 namespace quillane {
 
-/// One entry of the menu bar.  An entry without a `run` opens a sub-menu, or its command is not part of the program
-/// yet and the entry stays disabled.
+/// One entry of the menu bar.  An entry without a `run` opens a sub-menu, or its command is not part of the
+/// program yet and the entry stays disabled.
 struct Command {
   const char* name;     ///< "mnuFileSaveEvent"
   const char* caption;  ///< with '&' before the access key
@@ -14,12 +14,18 @@ struct Command {
   const char* parent;   ///< the sub-menu that holds it; empty for the menu bar
   bool visible, enabled;
   bool checkable, checked;
-  bool isMenu;          ///< opens a sub-menu
+  bool isMenu;  ///< opens a sub-menu
   void (*run)();
 };
 const std::vector<Command>& Commands();
 /// Puts every entry into the frame with its caption and start state.
 void BuildMenus();
+/// True for an entry whose command is part of the program.
+bool CommandExists(const QString& name);
+/// Enables or disables an entry by a rule; one whose command is not part of the program stays disabled.
+void EnableEntry(const QString& name, bool enabled);
+/// The text position in the status bar needs a printer: connects or hides its measure.
+void RefreshPrinterWidth();
 /// Runs an entry's procedure, if it is enabled.  Errors are caught here, once for each command.
 void RunCommand(const QString& name);
 /// A click on a tool bar image or button of the frame.

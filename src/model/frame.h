@@ -35,6 +35,8 @@ class Frame {
   Frame();
   Form form;  ///< name "frmMain"; its caption is the window's title
   ScrollBar VScroll1;
+  std::function<void()> sheetMoved;             ///< the window: sheetTop or the scroll range has changed
+  std::function<void(int)> pageBroughtToFront;  ///< the window: shows that page
   float sheetTop = 0;  ///< twips from the top of the view to that of the sheet in front; 0 or negative
   float clientHeight = 10000;  ///< twips of the sheet that show; the window keeps it up to date
 

@@ -1,0 +1,259 @@
+#include "app/commands.h"
+#include "app/preferences.h"
+#include "app/small_commands.h"
+#include "app/startup.h"
+#include "files/event_file.h"
+#include "files/file_dialog.h"
+#include "files/new_proposal.h"
+#include "pages/areas.h"
+#include "pages/totals.h"
+#include "print/print.h"
+#include "ui/desk.h"
+
+namespace quillane {
+
+namespace {
+
+using Run = void (*)();
+
+/// A menu of the menu bar, or one inside another.
+constexpr Command Menu(const char* parent, const char* name, const char* caption) {
+  return {name, caption, "", parent, true, true, false, false, true, nullptr};
+}
+/// An entry; one without a procedure waits for its command and is disabled.
+constexpr Command Entry(const char* parent, const char* name, const char* caption, const char* key, Run run) {
+  return {name, caption, key, parent, true, run != nullptr, false, false, false, run};
+}
+constexpr Command Off(Command command) {
+  command.enabled = false;
+  return command;
+}
+constexpr Command Hidden(Command command) {
+  command.visible = false;
+  return command;
+}
+enum class Check { Off, On };
+constexpr Command Checkable(Command command, Check check) {
+  command.checkable = true;
+  command.checked = check == Check::On;
+  return command;
+}
+/// A rule between groups of entries.
+constexpr Command Rule(const char* parent) {
+  return {"", "-", "", parent, true, false, false, false, false, nullptr};
+}
+
+template <int Window>
+void PrintPage() {
+  PrintPageCommand(Window);
+}
+void Leave() {
+  if (MayExit()) QuitApplication();
+}
+
+const std::vector<Command> FileEntries = {
+    Menu("", "mnuFile", "&File"),
+    Entry("mnuFile", "mnuFileNewEvent", "New Proposal", "Ctrl+N", NewEventCommand),
+    Hidden(Entry("mnuFile", "mnuFileNewWedding", "Wedding Proposal File", "Ctrl+W", NewWeddingCommand)),
+    Menu("mnuFile", "mnuFileOpen", "&Open"),
+    Entry("mnuFileOpen", "mnuFileOpenEvent", "Open Proposal File", "Ctrl+O", OpenEventCommand),
+    Entry("mnuFileOpen", "mnuFileOpenFootnotes", "Open Foo&tnotes", "Ctrl+T", nullptr),
+    Entry("mnuFileOpen", "mnuFileOpenAddressBook", "Open Address Book", "Ctrl+B", nullptr),
+    Entry("mnuFileOpen", "mnuFileOpenTextFile", "Open Text File", "", OpenTextFileCommand),
+    Rule("mnuFile"),
+    Entry("mnuFile", "mnuFileSaveEvent", "&Save Proposal Fi&le", "Ctrl+S", [] { SaveEventFile(); }),
+    Entry("mnuFile", "mnuFileSaveAs", "Save &As", "", [] { SaveEventFileAs(); }),
+    Entry("mnuFile", "mnuFileSaveAsText", "Save Proposal as Simple &Text File", "", nullptr),
+    Entry("mnuFile", "mnuFileSaveToWord", "Save Proposal to &Word for Formatting", "", nullptr),
+    Entry("mnuFile", "mnuFileCopyProposal", "Save Proposal to Memory (to insert elsewhere)", "", nullptr),
+    Rule("mnuFile"),
+    Off(Entry("mnuFile", "mnuFileRestoreFromBackup", "Replace Original Proposal with this Backup Copy", "",
+              RestoreFromBackupCommand)),
+    Entry("mnuFile", "mnuFileDelete", "Delete Displayed Proposal", "", DeleteProposalCommand),
+    Rule("mnuFile"),
+    Entry("mnuFile", "mnuFilePrintPreview", "Print P&review", "Ctrl+R", nullptr),
+    Menu("mnuFile", "mnuFilePrint", "&Print"),
+    Entry("mnuFilePrint", "mnuFilePrintAll", "&Print All Pages", "Ctrl+P", PrintAllCommand),
+    Rule("mnuFilePrint"),
+    Entry("mnuFilePrint", "mnuFilePrintPage1", "Print Page 1", "", PrintPage<0>),
+    Entry("mnuFilePrint", "mnuFilePrintPage2", "Print Page 2", "", PrintPage<1>),
+    Entry("mnuFilePrint", "mnuFilePrintPage3", "Print Page 3", "", PrintPage<2>),
+    Entry("mnuFilePrint", "mnuFilePrintPage4", "Print Page 4", "", PrintPage<3>),
+    Entry("mnuFilePrint", "mnuFilePrintPage5", "Print Page 5", "", PrintPage<4>),
+    Entry("mnuFilePrint", "mnuFilePrintPage6", "Print Totals and Contract Page", "", PrintPage<5>),
+    Entry("mnuFilePrint", "mnuFilePrintPage6_1", "Print Totals and Contract Page Copy", "", PrintPage<6>),
+    Off(Entry("mnuFile", "mnuFileResume", "Resume &Editing", "Ctrl+E", nullptr)),
+    Rule("mnuFile"),
+    Entry("mnuFile", "mnuFileExit", "E&xit", "", Leave),
+
+    Menu("", "mnuFileFormat", "File &Format"),
+    Entry("mnuFileFormat", "mnuFileFormatNew", "&Clear Current Format", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatOpen", "&Open Existing Format", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatSave", "&Save Current Format", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatSaveAs", "Save Current Format &As...", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatDelete", "Delete Current Format", "", nullptr),
+    Rule("mnuFileFormat"),
+    Entry("mnuFileFormat", "mnuFileFormatDefault", "Se&t Current Format as Default", "", nullptr),
+};
+
+const std::vector<Command> EditEntries = {
+    Menu("", "mnuEdit", "&Edit"),
+    Entry("mnuEdit", "mnuEditCompInfo", "Edit Company Info", "", nullptr),
+    Entry("mnuEdit", "mnuEditTitles", "Proposal Page Titles and Subtitles", "", nullptr),
+    Rule("mnuEdit"),
+    Entry("mnuEdit", "mnuEditSpellCheck", "Chec&k Spelling", "", nullptr),
+    Entry("mnuEdit", "mnuEditFind", "&Find", "Ctrl+F", nullptr),
+
+    Menu("", "mnuEditCtrl", "&Edit Control"),
+    Menu("mnuEditCtrl", "mnuEditTextBox", "Text Box"),
+    Entry("mnuEditTextBox", "mnuEditTextColumns", "Add Columns", "F8", ToggleColumns),
+    Entry("mnuEditTextBox", "mnuEditTextBold", "Make Bold", "", nullptr),
+    Entry("mnuEditTextBox", "mnuEditTextNormal", "Not Bold", "", nullptr),
+    Hidden(Off(Entry("mnuEditTextBox", "mnuEditTextCenter", "Centrally Align for Printing", "",
+                     [] { Tell(QStringLiteral("ok")); }))),
+    Rule("mnuEditTextBox"),
+    Entry("mnuEditTextBox", "mnuEditTextSelLCase", "Lower Case Selected Text", "", nullptr),
+    Entry("mnuEditTextBox", "mnuEditTextSelPCase", "Proper Case Selected Text", "", nullptr),
+    Entry("mnuEditTextBox", "mnuEditTextSelUCase", "Upper Case Selected Text", "", nullptr),
+    Rule("mnuEditTextBox"),
+    Entry("mnuEditTextBox", "mnuEditTextAddFUT", "Add to Frequent Terms", "F9", nullptr),
+    Entry("mnuEditTextBox", "mnuEditTextEditFUT", "Edit this Frequent Term", "", nullptr),
+    Entry("mnuEditTextBox", "mnuEditTextDeleteFUT", "Remove from Frequent Terms", "", nullptr),
+    Rule("mnuEditTextBox"),
+    Entry("mnuEditTextBox", "mnuEditTextDelete", "Delete Contents", "Shift+Del", nullptr),
+    Off(Entry("mnuEditTextBox", "mnuEditTextUndo", "Undo Delete", "Ctrl+U", nullptr)),
+    Entry("mnuEditTextBox", "mnuEditTextCopy", "Copy Selected Text Areas", "F2", nullptr),
+    Entry("mnuEditTextBox", "mnuEditTextCut", "Cut Selected Text Areas", "F3", nullptr),
+    Off(Entry("mnuEditTextBox", "mnuEditTextPaste", "Paste Copied Text Areas", "F4", nullptr)),
+    Rule("mnuEditTextBox"),
+    Off(Entry("mnuEditTextBox", "mnuEditTextMoveDown", "Move Contents Down", "", nullptr)),
+    Off(Entry("mnuEditTextBox", "mnuEditTextMoveUp", "Move Contents Up", "", nullptr)),
+    Rule("mnuEditTextBox"),
+    Entry("mnuEditTextBox", "mnuEditTextTaxExempt", "Make this Area Tax Exempt", "", MakeTaxExempt),
+    Entry("mnuEditTextBox", "mnuEditTextTaxable", "Make this Area Taxable", "", MakeTaxable),
+    Rule("mnuEditTextBox"),
+    Off(Entry("mnuEditTextBox", "mnuEditTextDeselect", "Deselect Text Areas and Clear Memory", "Ctrl+D",
+              nullptr)),
+    Hidden(Entry("mnuEditTextBox", "mnuEditTextProperties", "Properties", "", nullptr)),
+    Menu("mnuEditCtrl", "mnuEditLabel", "Label"),
+    Entry("mnuEditLabel", "mnuEditLabelProps", "Label &Properties", "", nullptr),
+    Entry("mnuEditLabel", "mnuEditLabelSelectAll", "&Select All", "", nullptr),
+    Entry("mnuEditLabel", "mnuEditLabelDeselectAll", "&DeSelect All", "", nullptr),
+    Menu("mnuEditCtrl", "mnuEditLogo", "Logo"),
+    Entry("mnuEditLogo", "mnuEditLogoOpen", "Select Different Logo", "", nullptr),
+    Entry("mnuEditLogo", "mnuEditLogoSave", "Save this Logo as Default", "", nullptr),
+    Checkable(Entry("mnuEditLogo", "mnuEditLogoVisible", "Show Logo", "", nullptr), Check::On),
+    Checkable(Entry("mnuEditLogo", "mnuEditLogoBorder", "Show Logo with Border", "", nullptr), Check::Off),
+    Entry("mnuEditCtrl", "mnuEditAllTextFonts", "Edit &All Text Area Fonts", "", nullptr),
+};
+
+const std::vector<Command> ViewEntries = {
+    Menu("", "mnuView", "&View"),
+    Entry("mnuView", "mnuViewEventDates", "All Events by Date", "", nullptr),
+    Entry("mnuView", "mnuViewExpiredEvents", "Show Expired Events", "", nullptr),
+    Entry("mnuView", "mnuViewNewEvents", "All Events within 10 days of Today", "", nullptr),
+
+    Menu("", "mnuManage", "Manage"),
+    Entry("mnuManage", "mnuManageDeposits", "Open &Deposit Manager", "Ctrl+M", nullptr),
+    Entry("mnuManage", "mnuManageEditor", "Open Contract Language Editor", "", nullptr),
+};
+
+const std::vector<Command> OptionEntries = {
+    Menu("", "mnuOpt", "Options"),
+    Entry("mnuOpt", "mnuOptFUT", "Show &Frequently Used Terms", "", nullptr),
+    Entry("mnuOpt", "mnuOptCalc", "Show &Calculator", "", nullptr),
+    Hidden(Entry("mnuOpt", "mnuOptPrinterOffset", "Change Printer Offsets", "", nullptr)),
+    Entry("mnuOpt", "mnuOptPrinter", "Change Default Printer", "", nullptr),
+    Entry("mnuOpt", "mnuOptACStart", "Change Auto Word Complete Start Position", "", nullptr),
+    Entry("mnuOpt", "mnuOptSalesTax", "Check Sales &Tax Rate", "",
+          [] { desk().ShowWindow(QStringLiteral("frmTax"), Modality::Modal); }),
+    Entry("mnuOpt", "mnuOptNetwork", "Set Up Network Share Path", "", RequestNetworkSharePath),
+    Entry("mnuOpt", "mnuOptCurrencySymbol", "Change Currency Symbol", "", CurrencySymbolCommand),
+    Rule("mnuOpt"),
+    Checkable(Entry("mnuOpt", "mnuOptDoNotLockFmtTextBoxes", "Do Not Lock Format Text Areas", "",
+                    ToggleDoNotLockFormat),
+              Check::On),
+    Checkable(Entry("mnuOpt", "mnuOptHideTotals", "Hide Totals on Final Page", "", ToggleHideTotals),
+              Check::Off),
+    Entry("mnuOpt", "mnuOptUserPref", "User Preferences", "",
+          [] { desk().ShowWindow(QStringLiteral("frmPref"), Modality::Modal); }),
+    Rule("mnuOpt"),
+    Entry("mnuOpt", "mnuOptCopyToPersonalAddressBook", "Add Bride to Address Book", "", nullptr),
+    Entry("mnuOpt", "mnuOptCopyGroomToPersonalAddressBook", "Add Groom to Address Book", "", nullptr),
+    Rule("mnuOpt"),
+    Checkable(
+        Entry("mnuOpt", "mnuOptUnderline", "Underline Main Categories when Printing", "", ToggleUnderline),
+        Check::Off),
+    Entry("mnuOpt", "mnuOptSetDefaultFonts", "Save Current Font Properties as Default", "",
+          SaveDefaultFontCommand),
+    Entry("mnuOpt", "mnuOptEmptyBackup", "Empty Backup Folder", "", EmptyBackupCommand),
+};
+
+const std::vector<Command> ToolEntries = {
+    Menu("", "mnuTools", "&Tools"),
+    Entry("mnuTools", "mnuToolsSnap", "Change Snap", "", nullptr),
+    Entry("mnuTools", "mnuToolsAlignWithSnap", "Align Form to Snap", "", nullptr),
+    Entry("mnuTools", "mnuToolsDrawCenterLines", "Draw Grid", "", nullptr),
+    Entry("mnuTools", "mnuToolsClearCenterLines", "Clear Grid", "", nullptr),
+    Entry("mnuTools", "mnuToolsPrinterOffsets", "Adjust Printer Offsets", "", nullptr),
+    Rule("mnuTools"),
+    Entry("mnuTools", "mnuToolsCreateShorcut", "Create Shorcut on the Desktop", "", CreateShortcutCommand),
+    Entry("mnuTools", "mnuToolsCreateShortcutUM", "Create Shortcut for Upgrade Manager", "",
+          CreateUpgradeShortcutCommand),
+    Rule("mnuTools"),
+    Entry("mnuTools", "mnuToolsRecalculate", "&Recalculate Totals", "F11", RecalculateCommand),
+    Rule("mnuTools"),
+    Menu("mnuTools", "mnuToolsAdmin", "Administrator"),
+    Entry("mnuToolsAdmin", "mnuAdminLogon", "Logon", "", LogonCommand),
+    Entry("mnuToolsAdmin", "mnuToolsAdminTestStrings", "Test String P4.4, P5.4", "", TestStringsCommand),
+    Hidden(Entry("mnuToolsAdmin", "mnuAdminDelete", "Delete Old Files", "", DeleteAnyFileCommand)),
+    Hidden(
+        Entry("mnuToolsAdmin", "mnuAdminDebug", "Debug Font Position Descrepancies", "", DebugFontsCommand)),
+    Hidden(Entry("mnuToolsAdmin", "mnuAdminCheckAddition", "Check Addition", "", CheckAdditionTest)),
+    Hidden(Entry("mnuToolsAdmin", "mnuAdminTestCode", "Test Code", "", nullptr)),
+    Hidden(Entry("mnuToolsAdmin", "mnuToolsAdminShowAllLabels", "Show All Labels", "", ShowAllLabelsCommand)),
+    Hidden(Off(
+        Entry("mnuToolsAdmin", "mnuAdminConvert", "Convert Page 6 Text from 200 to 100 bytes", "", nullptr))),
+    Hidden(Off(Entry("mnuToolsAdmin", "mnuAdminRecalc", "Manually Force Re-Calculation", "", nullptr))),
+    Hidden(Off(Entry("mnuToolsAdmin", "mnuAdminPrintAll", "Force Print of All Pages", "", nullptr))),
+};
+
+const std::vector<Command> HelpEntries = {
+    Menu("", "mnuSupport", "Support"),
+    Entry("mnuSupport", "mnuSupportUpdates", "Check for Updates (Internet Connection Required)", "",
+          CheckForUpdatesCommand),
+    Hidden(Entry("mnuSupport", "mnuSupportFree", "Free Technical Support", "", nullptr)),
+
+    Menu("", "mnuFeedback", "Feedback"),
+    Entry("mnuFeedback", "mnuFeedbackReportBug", "Report Software Problem (Internet Connection Required)", "",
+          [] { OpenOutside(maker::ProblemPage); }),
+    Entry("mnuFeedback", "mnuFeedbackSuggestions", "Offer Product Suggestion (Internet Connection Required)",
+          "", [] { OpenOutside(maker::SuggestionPage); }),
+
+    Menu("", "mnuHelp", "&Help"),
+    Entry("mnuHelp", "mnuHelpAbout", "About", "", AboutCommand),
+    Entry("mnuHelp", "mnuHelpTutorial", "Quick Start Tutorial", "",
+          [] { OpenHelp(QStringLiteral("tutorial.htm")); }),
+    Entry("mnuHelp", "mnuHelpContents", "Contents", "", [] { OpenHelp(QStringLiteral("index.htm")); }),
+    Entry("mnuHelp", "mnuHelpFAQ", "Visit Our Website for Frequently Asked Questions", "",
+          [] { OpenOutside(maker::FaqPage); }),
+    Hidden(Entry("mnuHelp", "mnuHelpShortCuts", "Show Short&cuts", "", nullptr)),
+    Entry("mnuHelp", "mnuHelpVersion", "Get Software Version", "", VersionCommand),
+};
+
+std::vector<Command> Joined() {
+  std::vector<Command> all;
+  for (const auto* part :
+       {&FileEntries, &EditEntries, &ViewEntries, &OptionEntries, &ToolEntries, &HelpEntries})
+    all.insert(all.end(), part->begin(), part->end());
+  return all;
+}
+
+}  // namespace
+
+const std::vector<Command>& Commands() {
+  static const std::vector<Command> commands = Joined();
+  return commands;
+}
+
+}  // namespace quillane

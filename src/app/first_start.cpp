@@ -1,0 +1,107 @@
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+#include "app/preferences.h"
+#include "app/startup.h"
+#include "model/proposal.h"
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+#include "ui/desk.h"
+
+namespace quillane {
+
+namespace {
+
+/// What of the installed data a user works with; the rest serves building and packaging.
+const QStringList& Installed() {
+  static const QStringList parts = {QStringLiteral("UserPreferences.txt"), QStringLiteral("events.jpg"),
+                                    QStringLiteral("Wedding Proposals"), QStringLiteral("Help")};
+  return parts;
+}
+
+void CopyWhereMissing(const QString& from, const QString& to) {
+  if (QFileInfo::exists(to)) return;
+  if (!QFile::copy(from, to)) Raise(errors::PathFileAccess, to);
+  // The installed copy is read-only for good reasons that do not hold for the user's own.
+  QFile::setPermissions(to, QFile::permissions(to) | QFileDevice::WriteOwner | QFileDevice::WriteUser);
+}
+
+void CopyPart(const QString& from, const QString& to) {
+  const QFileInfo source(from);
+  if (!source.isDir()) {
+    if (source.exists()) CopyWhereMissing(from, to);
+    return;
+  }
+  MakeFolder(to);
+  for (const QString& name : QDir(from).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
+    CopyPart(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name);
+}
+
+/// The first line of the preferences says whether the program has run before; reading them all would change
+/// it.
+bool IsFirstStart() {
+  QFile file(prefs.ProgramFolder + QStringLiteral("UserPreferences.txt"));
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  const QString line = QString::fromLatin1(file.readLine(200)).trimmed();
+  return line.mid(SettingKey(Setting::FirstInstance).size()) == QLatin1String("True");
+}
+
+bool GoOnWithoutArial() {
+  return AskYesNo(QStringLiteral("The font \"Arial\" is not installed on this computer.\n"
+                                 "Some features of this software may not work correctly\n"
+                                 "without it. Would you like to try the software anyway?\n"
+                                 "\n"
+                                 "Please contact us for instructions to install the font."),
+                  QStringLiteral("Arial font not found."));
+}
+
+/// Fonts of the same metrics, which the system puts in each other's place.
+struct Twins {
+  const char *name, *substitute;
+};
+constexpr Twins SameMetrics[] = {
+    {"Arial", "Liberation Sans"},
+    {"Arial", "Arimo"},
+    {"Times New Roman", "Liberation Serif"},
+    {"Times New Roman", "Tinos"},
+    {"Courier New", "Liberation Mono"},
+    {"Courier New", "Cousine"},
+    {"Calibri", "Carlito"},
+    {"Cambria", "Caladea"},
+};
+
+}  // namespace
+
+void FillProgramFolder(const QString& folder, const QString& data) {
+  MakeFolder(folder);
+  // A folder that was filled once is the user's: what was removed since stays removed.
+  const QString mark = WithSeparator(folder) + QStringLiteral(".filled");
+  if (QFileInfo::exists(mark) || !QFileInfo(data).isDir()) return;
+  for (const QString& part : Installed()) CopyPart(WithSeparator(data) + part, WithSeparator(folder) + part);
+  ReplaceFile(mark, QByteArray(QUILLANE_VERSION "\n"));
+}
+
+bool FontInstalled(const QString& name) {
+  const QStringList fonts = desk().ScreenFonts();
+  if (fonts.contains(name, Qt::CaseInsensitive)) return true;
+  for (const Twins& twins : SameMetrics)
+    if (name.compare(QLatin1String(twins.name), Qt::CaseInsensitive) == 0 &&
+        fonts.contains(QLatin1String(twins.substitute), Qt::CaseInsensitive))
+      return true;
+  return false;
+}
+
+bool Main() {
+  if (!IsFirstStart()) return true;
+  Tell(
+      QStringLiteral("Although the program is easy to use, some of the features which will\n"
+                     "help you the most can be confusing to understand. For this reason, it\n"
+                     "is HIGHLY RECOMMENDED you explore the Quick Start Tutorial under Help."));
+  if (FontInstalled(QStringLiteral("Arial")) || GoOnWithoutArial()) return true;
+  QuitApplication();
+  return false;
+}
+
+}  // namespace quillane
