@@ -28,13 +28,17 @@ void CopyWhereMissing(const QString& from, const QString& to) {
   QFile::setPermissions(to, QFile::permissions(to) | QFileDevice::WriteOwner | QFileDevice::WriteUser);
 }
 
+void NeedFolder(const QString& path) {
+  if (!QFileInfo(path).isDir()) MakeFolder(path);
+}
+
 void CopyPart(const QString& from, const QString& to) {
   const QFileInfo source(from);
   if (!source.isDir()) {
     if (source.exists()) CopyWhereMissing(from, to);
     return;
   }
-  MakeFolder(to);
+  NeedFolder(to);
   for (const QString& name : QDir(from).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
     CopyPart(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name);
 }
@@ -75,7 +79,7 @@ constexpr Twins SameMetrics[] = {
 }  // namespace
 
 void FillProgramFolder(const QString& folder, const QString& data) {
-  MakeFolder(folder);
+  NeedFolder(folder);
   // A folder that was filled once is the user's: what was removed since stays removed.
   const QString mark = WithSeparator(folder) + QStringLiteral(".filled");
   if (QFileInfo::exists(mark) || !QFileInfo(data).isDir()) return;

@@ -9,6 +9,7 @@
 #include "files/event_file.h"
 #include "files/file_dialog.h"
 #include "files/new_proposal.h"
+#include "files/property_file.h"
 #include "files/small_files.h"
 #include "model/focus.h"
 #include "model/frame.h"
@@ -212,6 +213,8 @@ void ConnectLayers() {
   calls.ReAdjustScrollBar = ReAdjustScrollBar;
   calls.BackupThisFile = BackupThisFile;
   calls.SaveEventFile = [] { SaveEventFile(); };
+  calls.SaveTaxRate = SaveTaxRate;
+  calls.PropertyLinesNow = PropertyLinesNow;
   calls.SetEditMenuState = [](const QString&) { SetEditMenuState(); };
   frame().VScroll1.Value.changed = [](int value) { ScrollChanged(value); };
   InstallPageHandlers();

@@ -5,17 +5,20 @@
 #include "app/commands.h"
 #include "app/startup.h"
 #include "model/proposal.h"
+#include "model/report.h"
 #include "platform/files.h"
 #include "qt/frame_window.h"
+#include "qt/text_measure.h"
 
 namespace quillane {
 
 Program::Program(QtDesk& desk, const QString& programFolder, const QString& dataFolder) : desk_(desk) {
   SetDesk(&desk_);
   prefs.ProgramFolder = WithSeparator(programFolder);
+  InstallTextMeasure();
   ResetState();
   SetDrivesFolder(prefs.ProgramFolder + QStringLiteral("drives"));
-  FillProgramFolder(prefs.ProgramFolder, dataFolder);
+  Guarded("Main", [&] { FillProgramFolder(prefs.ProgramFolder, dataFolder); });
   ConnectLayers();
   BuildMenus();
   desk_.showFrame = [this] { ShowFrame(); };
@@ -47,11 +50,11 @@ void Program::ShowFrame() {
   window_ = std::make_unique<FrameWindow>();
   desk_.frameWindow = window_.get();
   LoadMainFrame();
-  window_->show();
+  window_->ShowAsBefore();
 }
 
 void Program::CloseFrame() {
-  if (window_) window_->hide();
+  if (window_) window_->close();
   QApplication::quit();
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -233,6 +234,8 @@ TEST_F(CommandTable, AFailingCommandIsReportedUnderItsNameOnce) {
 }
 
 TEST_F(CommandTable, ShortcutsAreEntriesOnTheDesktopAndAmongTheApplications) {
+  int count = 0;
+  const QCoreApplication application(count, nullptr);
   QTemporaryDir home;
   qputenv("HOME", home.path().toUtf8());
   qputenv("XDG_DATA_HOME", (home.path() + "/share").toUtf8());

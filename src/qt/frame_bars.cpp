@@ -1,0 +1,161 @@
+// How the main window is put together.
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <QToolButton>
+
+#include "app/commands.h"
+#include "model/proposal.h"
+#include "qt/elided_label.h"
+#include "qt/frame_window.h"
+#include "qt/icons.h"
+#include "qt/sheet_view.h"
+
+namespace quillane {
+
+namespace {
+
+constexpr int ToolSize = 24, PageSize = 28;  // pixels of the drawings
+
+struct Drawing {
+  const char *control, *source;
+};
+constexpr Drawing Drawings[] = {
+    {"imgNew", "new"},       {"imgOpen", "open"},           {"imgFootNotes", "footnotes"},
+    {"imgSave", "save"},     {"imgSaveAs", "save-as"},      {"imgPrint", "print"},
+    {"imgSearch", "search"}, {"imgSpellCheck", "spelling"}, {"imgTime", "clock"},
+};
+
+QString DrawingOf(const QString& control) {
+  for (const Drawing& drawing : Drawings)
+    if (control == QLatin1String(drawing.control))
+      return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(drawing.source));
+  return {};
+}
+
+/// Images that act when the button goes down, as pressing them opens something.
+bool ActsOnPress(const QString& name) {
+  return name == QLatin1String("imgNew") || name == QLatin1String("imgOpen") ||
+         name == QLatin1String("imgFootNotes");
+}
+
+/// A name for who hears the window: tool tips say what an image does.
+QString SpokenName(const Control& control) {
+  return control.Caption().isEmpty() ? control.ToolTip() : control.Caption();
+}
+
+QFrame* MakeRule(QFrame::Shape shape) {
+  auto* rule = new QFrame;
+  rule->setFrameShape(shape);
+  rule->setFrameShadow(QFrame::Plain);
+  rule->setForegroundRole(QPalette::Mid);
+  return rule;
+}
+
+QHBoxLayout* MakeRow(QWidget& bar, int margin, int spacing) {
+  auto* row = new QHBoxLayout(&bar);
+  row->setContentsMargins(10, margin, 10, margin);
+  row->setSpacing(spacing);
+  return row;
+}
+
+}  // namespace
+
+void FrameWindow::Keep(const QString& name, QWidget* widget) {
+  Control& control = frame()[name];
+  widget->setObjectName(name);
+  widget->setAccessibleName(SpokenName(control));
+  widgets_.insert(&control, widget);
+  Follow(control, *widget);
+}
+
+void FrameWindow::AddImage(QHBoxLayout& row, const QString& name, int size) {
+  auto* button = new QToolButton;
+  button->setAutoRaise(true);
+  button->setIconSize({size, size});
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setCursor(Qt::PointingHandCursor);
+  if (const QString drawing = DrawingOf(name); !drawing.isEmpty()) button->setIcon(IconOf(drawing));
+  connect(button, &QToolButton::pressed, this, [] { editing.ButtonPressed = true; });
+  connect(button, &QToolButton::released, this, [] { editing.ButtonPressed = false; });
+  if (ActsOnPress(name)) {
+    // After the press has been dealt with: a window that opens would swallow the release, and the image stay
+    // down.
+    connect(button, &QToolButton::pressed, this,
+            [this, name] { QTimer::singleShot(0, this, [name] { FrameClicked(name); }); });
+  } else {
+    connect(button, &QToolButton::clicked, this, [name] { FrameClicked(name); });
+  }
+  row.addWidget(button);
+  Keep(name, button);
+}
+
+void FrameWindow::AddButton(QHBoxLayout& row, const QString& name) {
+  auto* button = new QPushButton;
+  button->setFocusPolicy(Qt::ClickFocus);
+  button->setMinimumHeight(30);
+  connect(button, &QPushButton::clicked, this, [name] { FrameClicked(name); });
+  row.addWidget(button);
+  Keep(name, button);
+}
+
+QWidget* FrameWindow::AddLabel(const QString& name, Qt::TextElideMode elide, Qt::Alignment alignment) {
+  auto* label = new ElidedLabel(elide);
+  label->setAlignment(alignment | Qt::AlignVCenter);
+  Keep(name, label);
+  return label;
+}
+
+QWidget* FrameWindow::MakeToolBar() {
+  auto* bar = new QWidget;
+  bar->setObjectName(QStringLiteral("picTop"));
+  QHBoxLayout* row = MakeRow(*bar, 6, 4);
+  for (const char* name : {"imgNew", "imgOpen", "imgFootNotes", "imgSave", "imgSaveAs", "imgPrint"})
+    AddImage(*row, QString::fromLatin1(name), ToolSize);
+  row->addWidget(MakeRule(QFrame::VLine));
+  for (const char* name : {"imgSearch", "imgSpellCheck"}) AddImage(*row, QString::fromLatin1(name), ToolSize);
+  row->addWidget(MakeRule(QFrame::VLine));
+  for (const char* name : {"cmdTaxRate", "cmdReCalc", "cmdPreview", "cmdClearMem"})
+    AddButton(*row, QString::fromLatin1(name));
+  row->addStretch();
+  row->addWidget(AddLabel(QStringLiteral("lblPage"), Qt::ElideRight, Qt::AlignRight));
+  row->addSpacing(4);
+  for (int k = 0; k < PageCount; ++k) AddImage(*row, QStringLiteral("imgPage(%1)").arg(k), PageSize);
+  return bar;
+}
+
+QWidget* FrameWindow::MakeInfoBar() {
+  auto* bar = new QWidget;
+  bar->setObjectName(QStringLiteral("picInfo"));
+  QHBoxLayout* row = MakeRow(*bar, 4, 16);
+  row->addWidget(AddLabel(QStringLiteral("lblDir"), Qt::ElideMiddle, Qt::AlignLeft), 1);
+  row->addWidget(AddLabel(QStringLiteral("lblEvent"), Qt::ElideRight, Qt::AlignRight), 1);
+  return bar;
+}
+
+QWidget* FrameWindow::MakeSheetRow() {
+  auto* bar = new QWidget;
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(0);
+  sheet_ = new SheetView;
+  row->addWidget(sheet_, 1);
+  scrollBar_ = new QScrollBar(Qt::Vertical);
+  scrollBar_->setObjectName(QStringLiteral("VScroll1"));
+  scrollBar_->setAccessibleName(tr("Slides the sheet"));
+  row->addWidget(scrollBar_);
+  return bar;
+}
+
+QWidget* FrameWindow::MakeStatusBar() {
+  auto* bar = new QWidget;
+  bar->setObjectName(QStringLiteral("picBottom"));
+  QHBoxLayout* row = MakeRow(*bar, 4, 16);
+  for (const char* name : {"lblTextPos", "lblHighestPage", "lblCurPos", "lblTextNum"})
+    row->addWidget(AddLabel(QString::fromLatin1(name), Qt::ElideRight, Qt::AlignLeft), 1);
+  row->addWidget(AddLabel(QStringLiteral("lblTotal"), Qt::ElideRight, Qt::AlignRight), 1);
+  return bar;
+}
+
+}  // namespace quillane

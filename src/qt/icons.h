@@ -1,0 +1,11 @@
+// The program's own drawings as icons, sharp at every scale.
+#pragma once
+#include <QIcon>
+
+namespace quillane {
+
+/// The icon of a drawing in the program's resources, ":/icons/new.svg".  It is drawn when it is first shown,
+/// at the size and scale that the screen asks for, in lines that read on the desktop's own ground.
+QIcon IconOf(const QString& source);
+
+}  // namespace quillane
