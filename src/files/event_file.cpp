@@ -1,13 +1,260 @@
+// Saving: the questions, the two files, and what changes only once both are whole.
 #include "files/event_file.h"
 
+#include <sys/stat.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "files/property_file.h"
+#include "model/focus.h"
+#include "model/frame.h"
+#include "model/report.h"
+#include "model/upcalls.h"
+#include "pages/changes.h"
+#include "pages/features.h"
+#include "pages/titles.h"
+#include "pages/totals.h"
+#include "platform/codepage.h"
+#include "platform/dates.h"
+#include "platform/files.h"
+#include "ui/desk.h"
+
 namespace quillane {
-bool SaveEventFile() { return false; }
-bool SaveEventFileAs() { return false; }
-void ShowDuplicateFileOptions(const QString&) {}
-bool OpenEventFile() { return false; }
-bool IllegalFileName(const QString&) { return false; }
-void BackupThisFile() {}
-bool FootnoteFileExists() { return false; }
-QByteArray EventFileBytes() { return {}; }
-EventFields ReadEventFields(const QByteArray&) { return {}; }
+
+namespace {
+
+const QString FieldFile = QStringLiteral(".wwf");
+const QString PropertyFile = QStringLiteral(".wpf");
+const QString DepositFile = QStringLiteral(".dep");
+const QString FootnoteFile = QStringLiteral(".wxt");
+
+enum class Properties { WhenChanged, Always };
+
+void ShowClientName() {
+  upcalls().UpdatePageButtons(0);
+  SetFocus(page(0).txt[2]);
+}
+
+quint64 DeviceOf(const QString& folder) {
+  struct stat status{};
+  return stat(QFile::encodeName(folder).constData(), &status) == 0 ? status.st_dev : 0;
+}
+
+// A share that went away leaves its mount point behind, and a file saved there would be on no share at all.
+void CheckFolderIsTheSame() {
+  if (!proposal.FileIsNamed || proposal.FolderDevice == 0) return;
+  if (DeviceOf(proposal.CurrentFolder) == proposal.FolderDevice) return;
+  Raise(errors::PathNotFound,
+        QStringLiteral("the folder %1 is no longer on the drive that it was on when the proposal was opened")
+            .arg(proposal.CurrentFolder));
+}
+
+void CheckSums() {
+  TakeFocusedAmount();
+  CalculateAllPages();
+  CheckTheTotals();
+}
+
+void TakeCurrentFolder() {
+  if (proposal.CurrentFolder.isEmpty()) proposal.CurrentFolder = prefs.ProposalFolder;
+}
+
+bool ClientNameChanged() {
+  return proposal.PageText[0][2].trimmed() != proposal.SavedText[0][2].trimmed();
+}
+
+// A proposal that takes a name for the first time must not inherit the properties of a file that it replaces.
+bool PropertiesAreDue(Properties when, const QString& baseName) {
+  if (when == Properties::Always || PropertiesHaveChanged() || PropertyLinesDiffer()) return true;
+  return !proposal.FileIsNamed && FileExists(PropertyFolder(), baseName + PropertyFile);
+}
+
+void WriteFiles(const QString& baseName, Properties when) {
+  SaveTextBoxFeatures();
+  FindHighestPage();
+  UpdatePageNumbers();
+  UpdateEventNameLabels();
+  const bool propertiesToo = PropertiesAreDue(when, baseName);
+  CheckFolderIsTheSame();
+  ReplaceFile(proposal.CurrentFolder + baseName + FieldFile, EventFileBytes());
+  proposal.PropertyLines = PropertyLinesNow();
+  if (propertiesToo) SavePropertyFile(baseName);
+}
+
+void TakeName(const QString& baseName) {
+  proposal.BaseName = baseName;
+  proposal.EventFileName = baseName + FieldFile;
+  proposal.TextFileName = baseName + QStringLiteral(".txt");
+}
+
+void MarkSaved() {
+  AssignPropChanges();
+  proposal.SavedPropertyLines = PropertyLinesNow();
+  proposal.SavedText = proposal.PageText;
+  proposal.FileIsNamed = true;
+  format.FormatSessionActive = false;
+  RememberFolder();
+  EnableMenu("mnuFileDelete", true);
+  UpdateEventNameLabels();
+  Tell(QStringLiteral("File was saved as ") + proposal.EventFileName);
+}
+
+bool MayReplaceDuplicate() {
+  if (proposal.FileIsNamed && !ClientNameChanged()) return true;
+  if (!FileExists(proposal.CurrentFolder, proposal.EventFileName)) return true;
+  ShowDuplicateFileOptions(proposal.EventFileName);
+  const bool declined = proposal.SaveCancelled;
+  proposal.SaveCancelled = false;
+  return !declined;
+}
+
+bool SaveUnderItsName() {
+  CheckSums();
+  TakeCurrentFolder();
+  if (!proposal.SavingAs && IllegalFileName(proposal.EventFileName)) {
+    ShowClientName();
+    return false;
+  }
+  if (!proposal.FileIsNamed && proposal.EventFileName.isEmpty()) {
+    Tell(QStringLiteral("Please enter the client's name in the appropriate area and save again."));
+    ShowClientName();
+    return false;
+  }
+  if (!MayReplaceDuplicate()) return false;
+  WriteFiles(proposal.EventFileName.chopped(FieldFile.size()), Properties::WhenChanged);
+  MarkSaved();
+  return true;
+}
+
+bool MayOverwrite(const QString& baseName) {
+  if (!FileExists(proposal.CurrentFolder, baseName + FieldFile)) return true;
+  const Answer answer = desk().MessageBox(
+      QStringLiteral("A file with the name ") + baseName + QStringLiteral(" already exists. Overwrite?"),
+      QStringLiteral("Preparing to Overwrite Existing Event File"), Buttons::YesNoCancel);
+  if (answer == Answer::Yes) return true;
+  Tell(QStringLiteral("Action Cancelled. File not saved."));
+  return false;
+}
+
+void CopySibling(const QString& from, const QString& to) {
+  if (from == to) Raise(errors::PermissionDenied, QStringLiteral("a file cannot be copied onto itself, ") + to);
+  CopyFileOver(prefs.ProposalFolder + from, prefs.ProposalFolder + to);
+}
+
+// What stands beside the proposal goes along.  Deposits are looked for under the new name, so that a proposal under a
+// new name starts without any; where that name has some, source and target are one file and the copy fails.
+void CopySiblings(const QString& oldFootnotes, bool hadFootnotes, bool hasDeposits) {
+  if (hadFootnotes) {
+    proposal.FootnoteFileName = proposal.BaseName + FootnoteFile;
+    if (proposal.FootnoteFileName != oldFootnotes) CopySibling(oldFootnotes, proposal.FootnoteFileName);
+  }
+  if (hasDeposits) CopySibling(proposal.DepositFileName, proposal.BaseName + DepositFile);
+  UpdateEventNameLabels();
+}
+
+bool SaveUnderNewName(const QString& baseName) {
+  TakeCurrentFolder();
+  if (!MayOverwrite(baseName)) return false;
+  const QString oldFootnotes = proposal.FootnoteFileName;
+  const bool hadFootnotes = FootnoteFileExists();
+  const bool hasDeposits = FileExists(proposal.CurrentFolder, baseName + DepositFile);
+  const bool saved = Guarded("SaveEventFile", [&] {
+    CheckSums();
+    WriteFiles(baseName, Properties::Always);
+    TakeName(baseName);
+    MarkSaved();
+  });
+  if (!saved) return false;
+  proposal.DepositFileName = baseName + DepositFile;
+  Guarded("SaveEventFileAs", [&] { CopySiblings(oldFootnotes, hadFootnotes, hasDeposits); });
+  return true;
+}
+
+// The fields as the pages show them, since the tables are brought up to date by a save only.
+QByteArray BytesAsTheyStand() {
+  PageTexts texts = proposal.PageText;
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreaCount(p); ++i)
+      texts[static_cast<size_t>(p)][static_cast<size_t>(i)] = StoredForm(page(p), i);
+  return EventFileBytes(texts, [](int p, int i) { return !page(p).imgNoTax[static_cast<size_t>(i)].Hidden(); });
+}
+
+bool HasForbiddenCharacter(const QString& name) {
+  for (const QChar c : QStringLiteral("/\\:*?<>|"))
+    if (name.contains(c)) return true;
+  return false;
+}
+
+// While an unnamed proposal's name is being typed every twentieth key would leave a file of half a name.
+bool BackupIsDue() {
+  if (proposal.EventFileName.size() <= FieldFile.size() || HasForbiddenCharacter(proposal.EventFileName)) return false;
+  if (!proposal.FileIsNamed && editing.Focus == &page(0).txt[2]) return false;
+  return !proposal.OpenedFromBackup;
+}
+
+}  // namespace
+
+bool SaveEventFile() {
+  bool saved = false;
+  Guarded("SaveEventFile", [&] { saved = SaveUnderItsName(); });
+  return saved;
+}
+
+bool SaveEventFileAs() {
+  bool saved = false;
+  Guarded("SaveEventFileAs", [&] {
+    if (TotalsAreStale()) RecalculateTotals(0);
+    const QString answer = desk().InputBox(QStringLiteral("Please input the File Name below."),
+                                           QStringLiteral("Saving File As..."), QString());
+    const QString baseName = FoldToCodePage(answer).trimmed();
+    if (baseName.isEmpty()) return Tell(QStringLiteral("No name entered. File not saved."));
+    proposal.SavingAs = true;
+    if (!IllegalFileName(baseName)) saved = SaveUnderNewName(baseName);
+  });
+  return saved;
+}
+
+void ShowDuplicateFileOptions(const QString& fileName) {
+  proposal.SaveCancelled = true;  // also when the question itself fails
+  Guarded("ShowDuplicateFileOptions", [&] {
+    const QString created = GeneralDateTime(FileTime(proposal.CurrentFolder + fileName));
+    const QString question = QStringLiteral("A file with this name (") + fileName +
+                             QStringLiteral(")\nalready exists. Do you want to replace the\nexisting file, created on:\n") +
+                             created + QStringLiteral("\n\nwith this one?");
+    proposal.SaveCancelled = !AskYesNo(question, QStringLiteral("Duplicate File Name on Record"));
+    if (proposal.SaveCancelled) Tell(QStringLiteral("File not saved."));
+  });
+}
+
+bool IllegalFileName(const QString& name) {
+  if (!HasForbiddenCharacter(name)) return false;
+  Tell(QStringLiteral("Action Cancelled. File Name cannot include any of\nthe following characters: / \\ : * ? < > |"));
+  return true;
+}
+
+void BackupThisFile() {
+  if (!BackupIsDue()) return;
+  Guarded("BackupThisFile", [] {
+    const Scoped backup(proposal.BackupInProgress, true);
+    ReplaceFile(prefs.BackupFolder + proposal.EventFileName, BytesAsTheyStand());
+  });
+}
+
+bool FootnoteFileExists() {
+  return !proposal.FootnoteFileName.isEmpty() && FileExists(prefs.ProposalFolder, proposal.FootnoteFileName);
+}
+
+void ShowFootnoteMark(bool filled) {
+  const QString source = filled ? QStringLiteral(":/icons/footnotes-filled.svg") : QStringLiteral(":/icons/footnotes.svg");
+  frame()["imgFootNotes"].SetPicture({source, 360, 360});
+}
+
+void RememberFolder() { proposal.FolderDevice = DeviceOf(proposal.CurrentFolder); }
+
+bool SameFolder(const QString& one, const QString& other) {
+  const QString path = QFileInfo(one).canonicalFilePath();
+  return !path.isEmpty() && path == QFileInfo(other).canonicalFilePath();
+}
+
 }  // namespace quillane

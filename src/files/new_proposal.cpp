@@ -1,9 +1,223 @@
 #include "files/new_proposal.h"
 
+#include "files/event_file.h"
+#include "files/property_file.h"
+#include "model/frame.h"
+#include "model/report.h"
+#include "model/upcalls.h"
+#include "pages/changes.h"
+#include "pages/defaults.h"
+#include "pages/titles.h"
+#include "pages/totals.h"
+#include "platform/files.h"
+#include "ui/desk.h"
+
 namespace quillane {
-bool StartNewFile() { return true; }
-bool PromptSaveChanges() { return true; }
-void NewEventCommand() {}
-void NewWeddingCommand() {}
-void LoadLogo() {}
+
+namespace {
+
+const QString NoTitle = QStringLiteral("Proposal for (Client's Name)");
+
+// One step of the way to a blank proposal.  A step that fails is reported and costs itself and nothing else.
+template <class Body>
+void Step(Body&& body) {
+  if (!Guarded("StartNewFile", std::forward<Body>(body))) editing.NewFile = false;
+}
+
+bool MayEndFormatSession() {
+  if (!format.FormatSessionActive) return true;
+  if (AskYesNo(QStringLiteral("Proceeding with this action will end the editing session of your file format. Continue?"),
+               QStringLiteral("Ending Format Editing")))
+    return true;
+  Tell(QStringLiteral("Resume Editing."));
+  return false;
+}
+
+QString DefaultSubTitle(const QString& kind) {
+  if (!prefs.PageTitles.isEmpty()) return prefs.PageTitles;
+  return prefs.CompanyName + QStringLiteral(" - ") + kind + QStringLiteral(" Proposal - ");
+}
+
+// Nothing of the last proposal reaches the next but what belongs to the run: the mode, and that Save As was used.
+void ForgetFile() {
+  ProposalState blank;
+  blank.PageText = std::move(proposal.PageText);
+  blank.SavedText = std::move(proposal.SavedText);
+  blank.DefaultLabels = std::move(proposal.DefaultLabels);
+  blank.Mode = proposal.Mode;
+  blank.SavingAs = proposal.SavingAs;
+  blank.SubTitle = DefaultSubTitle(QStringLiteral("Event"));
+  blank.CurrentFolder = prefs.ProposalFolder;
+  proposal = std::move(blank);
+  EnableMenu("mnuFileDelete", false);
+  EnableMenu("mnuFileRestoreFromBackup", false);
+  frame()["lblDir"].SetCaption(QStringLiteral("Current Folder = ") + proposal.CurrentFolder);
+}
+
+void ForgetEditing() {
+  editing.CurrentForm = &page(0);
+  editing.CurrentPage = 0;
+  editing.CurrentArea = 0;
+  editing.KeysSinceBackup = 0;
+  editing.AreasSelected = editing.SelectionMemoryFull = false;
+  editing.RecalcPending = editing.RecalcMarked = false;
+  editing.TextOverflowing = editing.PushPending = editing.PushKeepCaret = editing.PushMoveCaret = false;
+  editing.DateWarningGiven = false;
+}
+
+// The preferred font of the areas; a setting that is missing leaves the system's own.
+void TakeUserFont() {
+  UserFont font;
+  if (!prefs.DefaultFont.FontName.isEmpty()) font.FontName = prefs.DefaultFont.FontName;
+  if (prefs.DefaultFont.FontSize > 0) font.FontSize = prefs.DefaultFont.FontSize;
+  font.FontColor = prefs.DefaultFont.FontColor;
+  font.FontItalic = prefs.DefaultFont.FontItalic;
+  proposal.UDP = font;
+  ApplyUserFont();
+  SetMyFonts(page(5));
+  SetMyFonts(page(CopyOfPage6));
+}
+
+bool FormatFills(int pageIndex, int area) {
+  return pageIndex < ItemPages &&
+         format.FormatTextRec[static_cast<size_t>(pageIndex)][static_cast<size_t>(area)].HasFormatText;
+}
+
+void Rest(Control& box, Color resting) { box.SetBackColor(editing.Focus == &box ? colors::Cyan : resting); }
+
+void BlankAreas(Page& target) {
+  for (Control& area : target.txt) {
+    Rest(area, colors::Grey);
+    if (FormatFills(target.pageIndex, area.Index())) continue;
+    if (target.window != CopyOfPage6) {
+      const auto p = static_cast<size_t>(target.pageIndex);
+      const auto i = static_cast<size_t>(area.Index());
+      proposal.PageText[p][i] = proposal.SavedText[p][i] = BlankSlot();
+    }
+    area.SetText(QString());
+    area.SetFontBold(false);
+  }
+  for (auto* columns : {&target.txtQty, &target.txtAmt})
+    for (Control& box : *columns) Rest(box, colors::LightGrey);
+  target.lastFocused = 0;
+}
+
+void HideMarks(Page& target) {
+  for (Control& label : target.lbl) {
+    label.SetBackColor(colors::White);
+    label.SetShown(!target.IsItemPage() || label.Caption() != prefs.CurrencySymbol);
+  }
+  for (Control& mark : target.imgNoTax) mark.SetShown(false);
+}
+
+void ResetStatus() {
+  ShowRunningSubTotal();
+  MarkTotalsFresh();
+  frame()["lblHighestPage"].SetCaption(QStringLiteral("Available Pages = 6"));
+  ShowFootnoteMark(false);
+}
+
+void TakeDefaultFormat(bool load) {
+  if (!load) return;
+  const QString& path = prefs.DefaultFileFormat;
+  const qsizetype folderEnd = std::max(path.lastIndexOf(QLatin1Char('\\')), path.lastIndexOf(QLatin1Char('/'))) + 1;
+  format.FormatFolder = path.left(folderEnd);
+  format.FormatName = path.mid(folderEnd);
+  format.FormatIsOpen = true;
+}
+
+void BlankPages() {
+  Step([] {
+    if (!editing.StartingUp) ShowDefaultPages();
+  });
+  Step(TakeUserFont);
+  Step([] {
+    for (int window = 0; window < PageCount; ++window) {
+      BlankAreas(page(window));
+      HideMarks(page(window));
+    }
+  });
+  Step(ResetStatus);
+}
+
+void TakeTermsFile(const QString& name) {
+  terms.FileName = name;
+  if (prefs.ShowFUT) upcalls().ReadTerms();
+}
+
+void ShowWeddingWords() {
+  proposal.SubTitle = DefaultSubTitle(QStringLiteral("Wedding"));
+  Control& date = page(0).lbl[9];
+  Control& time = page(0).lbl[10];
+  date.SetCaption(QStringLiteral("Wedding Date"));
+  time.SetCaption(QStringLiteral("Wedding Time"));
+  time.SetLeft(9810);
+  FindHighestPage();
+  UpdatePageNumbers();
+}
+
+}  // namespace
+
+bool StartNewFile() {
+  const Scoped newFile(editing.NewFile, true);
+  if (desk().WindowIsOpen(QStringLiteral("frmNotes"))) desk().CloseWindow(QStringLiteral("frmNotes"));
+  if (!MayEndFormatSession()) return false;
+  const bool loadFormat = prefs.LoadDefaultFormat && !prefs.DefaultFileFormat.isEmpty();
+  ForgetFile();
+  Step([] { UpdateEventNameLabels(); });
+  frame().form.caption = QStringLiteral("Quillane");
+  ForgetEditing();
+  {
+    const Scoped rebuilding(editing.RebuildingPages, true);
+    BlankPages();
+    TakeDefaultFormat(loadFormat);
+    Step([] {
+      if (format.FormatIsOpen) upcalls().OpenFormat();
+    });
+    Step(LoadLogo);
+  }
+  Step([] {
+    FindHighestPage();
+    UpdatePageNumbers();
+  });
+  proposal.SavedPropertyLines = PropertyLinesNow();
+  Step([] { upcalls().UpdatePageButtons(0); });
+  upcalls().SetEditMenuState(QStringLiteral("NothingSelected"));
+  return true;
+}
+
+bool HasUnsavedChanges() { return ProposalHasChanged() || PropertyLinesDiffer(); }
+
+bool PromptSaveChanges() {
+  TakeFocusedAmount();
+  if (!HasUnsavedChanges()) return true;
+  const Answer answer =
+      desk().MessageBox(QStringLiteral("Some text has been changed. Do you want to save the changes?"),
+                        QStringLiteral("File Properties have been Changed"), Buttons::YesNoCancel);
+  if (answer == Answer::No || (answer == Answer::Yes && SaveEventFile())) return true;
+  editing.ActionCancelled = true;
+  return false;
+}
+
+bool MayLeaveProposal() {
+  PromptSaveChanges();
+  const bool cancelled = editing.ActionCancelled;
+  editing.ActionCancelled = false;
+  return !cancelled;
+}
+
+void NewEventCommand() {
+  if (!MayLeaveProposal() || !StartNewFile()) return;
+  if (!prefs.LoadDefaultFormat && !format.FormatIsOpen && !terms.FileLoaded)
+    TakeTermsFile(QStringLiteral("Event Terms.fut"));
+}
+
+void NewWeddingCommand() {
+  if (!MayLeaveProposal()) return;
+  proposal.Mode = QStringLiteral("Wedding");
+  if (!StartNewFile()) return;
+  if (!prefs.LoadDefaultFormat) ShowWeddingWords();
+  if (!terms.FileLoaded) TakeTermsFile(QStringLiteral("Wedding Terms.fut"));
+}
+
 }  // namespace quillane

@@ -7,16 +7,21 @@ namespace quillane {
 
 /// Builds proposal.PropertyLines from the tables and clears the marks that it has taken.
 void AssignPropChanges();
-/// The lines that AssignPropChanges would build, without touching a mark.
+/// The lines that a save would write, read from the pages as they stand, without touching a mark.
 QStringList PropertyLinesNow();
-/// Writes proposal.PropertyLines to `baseName` + ".wpf".
+/// True when a save would write other lines than those last written or read.
+bool PropertyLinesDiffer();
+/// Writes proposal.PropertyLines to `baseName` + ".wpf".  Throws what ReplaceFile throws.
 void SavePropertyFile(const QString& baseName);
+/// Where property files are written and read: the folder of the open file, but the proposal folder for a proposal that
+/// came from the backup folder, which holds field files only.
+QString PropertyFolder();
 /// Reads and applies the ".wpf" of the open proposal, if there is one.
 void ReadFileProperties();
 void ParsePropertyFile();
 /// Stores every label of every page in the table that printing reads.
 void CopyLabelsToRecords();
-/// Gives every text box of every page the font in proposal.UDP.
+/// Gives every area and column of pages 1 to 5 the font in proposal.UDP; bold stays with the area.
 void ApplyUserFont();
 
 }  // namespace quillane

@@ -76,6 +76,13 @@ Frame& frame() {
 
 void CreateFrame() { TheFrame() = std::make_unique<Frame>(); }
 
+void EnableMenu(const char* name, bool enabled) {
+  if (Control* entry = frame().Find(QString::fromLatin1(name))) entry->SetEnabled(enabled);
+}
+void CheckMenu(const char* name, bool checked) {
+  if (Control* entry = frame().Find(QString::fromLatin1(name))) entry->SetChecked(checked);
+}
+
 void MarkTotalsStale() { frame()["cmdReCalc"].SetBackColor(colors::Red); }
 void MarkTotalsFresh() { frame()["cmdReCalc"].SetBackColor(colors::ButtonFace); }
 bool TotalsAreStale() { return frame()["cmdReCalc"].BackColor() == colors::Red; }

@@ -56,6 +56,10 @@ class Frame {
 Frame& frame();
 void CreateFrame();
 
+/// The states of a menu entry; a name that the menu bar does not have is passed over, as before it is built.
+void EnableMenu(const char* name, bool enabled);
+void CheckMenu(const char* name, bool checked);
+
 /// The red of stale totals on cmdReCalc, and its end.
 void MarkTotalsStale();
 void MarkTotalsFresh();
