@@ -8,8 +8,10 @@ namespace quillane {
 
 namespace {
 
-constexpr int BufferLength = 120;  // every field is written through a buffer of this length, whatever its width
-constexpr int FileLength = 22000;  // the last field's buffer reaches this far; the length tells a current file
+constexpr int BufferLength =
+    120;  // every field is written through a buffer of this length, whatever its width
+constexpr int FileLength =
+    22000;  // the last field's buffer reaches this far; the length tells a current file
 constexpr char ExemptMark = '\xD8';
 constexpr QChar QuantitySign(0xA5);
 constexpr QChar EachSign(0xA7);
@@ -27,7 +29,8 @@ int WidthOf(int pageIndex, int area) {
 
 int WidthInFile(int width, qsizetype fileLength) {
   for (const OlderLength& older : OlderLengths)
-    if (older.bytes == fileLength) return width == 20 ? older.amountWidth : width == 120 ? older.longWidth : width;
+    if (older.bytes == fileLength)
+      return width == 20 ? older.amountWidth : width == 120 ? older.longWidth : width;
   return width;
 }
 
@@ -37,8 +40,8 @@ QByteArray FieldBuffer(const QString& text, int width, bool exempt) {
   return field.leftJustified(BufferLength, ' ', true);
 }
 
-// Past its end a short file reads as blanks on the item pages, but as zero bytes on the totals page, whose deposit
-// thereby makes itself known as missing.
+// Past its end a short file reads as blanks on the item pages, but as zero bytes on the totals page, whose
+// deposit thereby makes itself known as missing.
 QByteArray FieldBytes(const QByteArray& bytes, qsizetype position, int width, bool itemPage) {
   QByteArray field = bytes.mid(position, width);
   field.append(width - field.size(), itemPage ? ' ' : '\0');
@@ -88,7 +91,8 @@ std::optional<ColumnTexts> SplitColumns(const QString& stored) {
   if (second < 0) return std::nullopt;
   const qsizetype third = stored.indexOf(EachSign, second + 1);
   if (third < 0) return std::nullopt;
-  return ColumnTexts{stored.mid(1, second - 1), stored.mid(second + 1, third - second - 1), stored.mid(third + 1)};
+  return ColumnTexts{stored.mid(1, second - 1), stored.mid(second + 1, third - second - 1),
+                     stored.mid(third + 1)};
 }
 
 bool HasStrayMark(const QString& stored) {

@@ -1,9 +1,6 @@
 // Saving: the questions, the two files, and what changes only once both are whole.
 #include "files/event_file.h"
 
-#include <sys/stat.h>
-
-#include <QFile>
 #include <QFileInfo>
 
 #include "files/property_file.h"
@@ -36,20 +33,6 @@ void ShowClientName() {
   SetFocus(page(0).txt[2]);
 }
 
-quint64 DeviceOf(const QString& folder) {
-  struct stat status{};
-  return stat(QFile::encodeName(folder).constData(), &status) == 0 ? status.st_dev : 0;
-}
-
-// A share that went away leaves its mount point behind, and a file saved there would be on no share at all.
-void CheckFolderIsTheSame() {
-  if (!proposal.FileIsNamed || proposal.FolderDevice == 0) return;
-  if (DeviceOf(proposal.CurrentFolder) == proposal.FolderDevice) return;
-  Raise(errors::PathNotFound,
-        QStringLiteral("the folder %1 is no longer on the drive that it was on when the proposal was opened")
-            .arg(proposal.CurrentFolder));
-}
-
 void CheckSums() {
   TakeFocusedAmount();
   CalculateAllPages();
@@ -66,7 +49,7 @@ bool ClientNameChanged() {
 
 // A proposal that takes a name for the first time must not inherit the properties of a file that it replaces.
 bool PropertiesAreDue(Properties when, const QString& baseName) {
-  if (when == Properties::Always || PropertiesHaveChanged() || PropertyLinesDiffer()) return true;
+  if (when == Properties::Always || PropertiesHaveChanged()) return true;
   return !proposal.FileIsNamed && FileExists(PropertyFolder(), baseName + PropertyFile);
 }
 
@@ -76,7 +59,6 @@ void WriteFiles(const QString& baseName, Properties when) {
   UpdatePageNumbers();
   UpdateEventNameLabels();
   const bool propertiesToo = PropertiesAreDue(when, baseName);
-  CheckFolderIsTheSame();
   ReplaceFile(proposal.CurrentFolder + baseName + FieldFile, EventFileBytes());
   proposal.PropertyLines = PropertyLinesNow();
   if (propertiesToo) SavePropertyFile(baseName);
@@ -94,7 +76,6 @@ void MarkSaved() {
   proposal.SavedText = proposal.PageText;
   proposal.FileIsNamed = true;
   format.FormatSessionActive = false;
-  RememberFolder();
   EnableMenu("mnuFileDelete", true);
   UpdateEventNameLabels();
   Tell(QStringLiteral("File was saved as ") + proposal.EventFileName);
@@ -138,12 +119,14 @@ bool MayOverwrite(const QString& baseName) {
 }
 
 void CopySibling(const QString& from, const QString& to) {
-  if (from == to) Raise(errors::PermissionDenied, QStringLiteral("a file cannot be copied onto itself, ") + to);
+  if (from == to)
+    Raise(errors::PermissionDenied, QStringLiteral("a file cannot be copied onto itself, ") + to);
   CopyFileOver(prefs.ProposalFolder + from, prefs.ProposalFolder + to);
 }
 
-// What stands beside the proposal goes along.  Deposits are looked for under the new name, so that a proposal under a
-// new name starts without any; where that name has some, source and target are one file and the copy fails.
+// What stands beside the proposal goes along.  Deposits are looked for under the new name, so that a proposal
+// under a new name starts without any; where that name has some, source and target are one file and the copy
+// fails.
 void CopySiblings(const QString& oldFootnotes, bool hadFootnotes, bool hasDeposits) {
   if (hadFootnotes) {
     proposal.FootnoteFileName = proposal.BaseName + FootnoteFile;
@@ -177,7 +160,8 @@ QByteArray BytesAsTheyStand() {
   for (int p = 0; p < ItemPages; ++p)
     for (int i = 0; i < AreaCount(p); ++i)
       texts[static_cast<size_t>(p)][static_cast<size_t>(i)] = StoredForm(page(p), i);
-  return EventFileBytes(texts, [](int p, int i) { return !page(p).imgNoTax[static_cast<size_t>(i)].Hidden(); });
+  return EventFileBytes(texts,
+                        [](int p, int i) { return !page(p).imgNoTax[static_cast<size_t>(i)].Hidden(); });
 }
 
 bool HasForbiddenCharacter(const QString& name) {
@@ -188,7 +172,8 @@ bool HasForbiddenCharacter(const QString& name) {
 
 // While an unnamed proposal's name is being typed every twentieth key would leave a file of half a name.
 bool BackupIsDue() {
-  if (proposal.EventFileName.size() <= FieldFile.size() || HasForbiddenCharacter(proposal.EventFileName)) return false;
+  if (proposal.EventFileName.size() <= FieldFile.size() || HasForbiddenCharacter(proposal.EventFileName))
+    return false;
   if (!proposal.FileIsNamed && editing.Focus == &page(0).txt[2]) return false;
   return !proposal.OpenedFromBackup;
 }
@@ -219,9 +204,10 @@ void ShowDuplicateFileOptions(const QString& fileName) {
   proposal.SaveCancelled = true;  // also when the question itself fails
   Guarded("ShowDuplicateFileOptions", [&] {
     const QString created = GeneralDateTime(FileTime(proposal.CurrentFolder + fileName));
-    const QString question = QStringLiteral("A file with this name (") + fileName +
-                             QStringLiteral(")\nalready exists. Do you want to replace the\nexisting file, created on:\n") +
-                             created + QStringLiteral("\n\nwith this one?");
+    const QString question =
+        QStringLiteral("A file with this name (") + fileName +
+        QStringLiteral(")\nalready exists. Do you want to replace the\nexisting file, created on:\n") +
+        created + QStringLiteral("\n\nwith this one?");
     proposal.SaveCancelled = !AskYesNo(question, QStringLiteral("Duplicate File Name on Record"));
     if (proposal.SaveCancelled) Tell(QStringLiteral("File not saved."));
   });
@@ -229,7 +215,8 @@ void ShowDuplicateFileOptions(const QString& fileName) {
 
 bool IllegalFileName(const QString& name) {
   if (!HasForbiddenCharacter(name)) return false;
-  Tell(QStringLiteral("Action Cancelled. File Name cannot include any of\nthe following characters: / \\ : * ? < > |"));
+  Tell(QStringLiteral(
+      "Action Cancelled. File Name cannot include any of\nthe following characters: / \\ : * ? < > |"));
   return true;
 }
 
@@ -246,11 +233,10 @@ bool FootnoteFileExists() {
 }
 
 void ShowFootnoteMark(bool filled) {
-  const QString source = filled ? QStringLiteral(":/icons/footnotes-filled.svg") : QStringLiteral(":/icons/footnotes.svg");
+  const QString source =
+      filled ? QStringLiteral(":/icons/footnotes-filled.svg") : QStringLiteral(":/icons/footnotes.svg");
   frame()["imgFootNotes"].SetPicture({source, 360, 360});
 }
-
-void RememberFolder() { proposal.FolderDevice = DeviceOf(proposal.CurrentFolder); }
 
 bool SameFolder(const QString& one, const QString& other) {
   const QString path = QFileInfo(one).canonicalFilePath();

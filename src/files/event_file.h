@@ -13,12 +13,12 @@ namespace quillane {
 /// Saves the open proposal under its name.  True when it was saved.
 bool SaveEventFile();
 bool SaveEventFileAs();
-/// Asks before an existing file is replaced; sets proposal.SaveCancelled when the user declines.  A Yes deletes
-/// nothing: the old file goes when the new one is whole.
+/// Asks before an existing file is replaced; sets proposal.SaveCancelled when the user declines.  A Yes
+/// deletes nothing: the old file goes when the new one is whole.
 void ShowDuplicateFileOptions(const QString& fileName);
-/// Opens fileDialog.Folder + fileDialog.SelectedFileName, and its property file unless fileDialog.IgnoreProperties.
-/// The file is read whole before the pages are blanked, so that an unreadable one leaves the open proposal.  True when
-/// it was read.
+/// Opens fileDialog.Folder + fileDialog.SelectedFileName, and its property file unless
+/// fileDialog.IgnoreProperties. The file is read whole before the pages are blanked, so that an unreadable
+/// one leaves the open proposal.  True when it was read.
 bool OpenEventFile();
 /// True, after telling the user, when the name has one of / \ : * ? < > |
 bool IllegalFileName(const QString& name);
@@ -33,7 +33,8 @@ QByteArray EventFileBytes();
 /// The same for any texts; `exempt` says which fields of pages 1 to 5 carry the mark, by page index and area.
 QByteArray EventFileBytes(const PageTexts& texts, const std::function<bool(int, int)>& exempt);
 
-/// The fields of a file: one text a page index and area, cut at their widths by the file's length, blanks not trimmed.
+/// The fields of a file: one text a page index and area, cut at their widths by the file's length, blanks not
+/// trimmed.
 struct EventFields {
   std::vector<std::vector<QString>> text;
 };
@@ -49,8 +50,6 @@ std::optional<ColumnTexts> SplitColumns(const QString& stored);
 /// The stored text of a row without columns that holds one of the signs all the same.
 bool HasStrayMark(const QString& stored);
 
-/// Remembers which device proposal.CurrentFolder is on.
-void RememberFolder();
 /// True when both strings name one existing folder.
 bool SameFolder(const QString& one, const QString& other);
 

@@ -104,8 +104,9 @@ void TakeDeposit(const std::vector<QString>& fields) {
   const QString& deposit = proposal.PageText[5][DepositArea];
   const std::optional<float> value = deposit.isEmpty() ? 0.0F : ValueOf(deposit);
   if (!value)
-    Tell(QStringLiteral("Deposit is not numeric. Zero will be entered. Please\n"
-                        "double-check the Deposit amount from previous records."));
+    Tell(
+        QStringLiteral("Deposit is not numeric. Zero will be entered. Please\n"
+                       "double-check the Deposit amount from previous records."));
   proposal.DepositReceived = value.value_or(0.0F);
 }
 
@@ -137,7 +138,6 @@ void TakeFileNames(const QString& folder, const QString& name) {
   proposal.FootnoteFileName = proposal.BaseName + QStringLiteral(".wxt");
   proposal.DepositFileName = proposal.BaseName + QStringLiteral(".dep");
   proposal.Title = QStringLiteral("Proposal for ") + proposal.BaseName;
-  RememberFolder();
 }
 
 void ShowFileNames() {

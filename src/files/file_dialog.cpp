@@ -12,7 +12,9 @@ void FileDialog::Back() {}
 void FileDialog::Open() {}
 void FileDialog::Cancel() {}
 void FileDialog::Unload() {}
-QStringList Drives() { return {}; }
+QStringList Drives() {
+  return {};
+}
 void DeleteProposalCommand() {}
 void RestoreFromBackupCommand() {}
 void EmptyBackupCommand() {}

@@ -13,10 +13,10 @@ void DeleteAnyFileCommand();
 /// What frmFile shows and does; the window is a view of it.
 struct FileDialog {
   QString caption, help, pointOpen = QStringLiteral("Open..."), openFileName;
-  QString folder;           ///< with a separator
+  QString folder;  ///< with a separator
   QString drive;
-  QStringList files;        ///< of the folder, by the filter
-  bool picking = true;      ///< false while picFileOpen shows
+  QStringList files;    ///< of the folder, by the filter
+  bool picking = true;  ///< false while picFileOpen shows
   bool propertiesOffered = true;
   bool closed = false;
 
@@ -29,7 +29,8 @@ struct FileDialog {
   void Cancel();
   void Unload();
 };
-/// The drives of this machine: the root, the home folder, mounted media, and each letter under the drives folder.
+/// The drives of this machine: the root, the home folder, mounted media, and each letter under the drives
+/// folder.
 QStringList Drives();
 
 /// Deletes the open proposal with its siblings, after asking, and starts a new one.

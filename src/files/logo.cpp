@@ -18,7 +18,9 @@ bool HasFolder(const QString& stored) {
   return stored.contains(QLatin1Char('\\')) || stored.contains(QLatin1Char('/'));
 }
 
-LogoChoice PreferredLogo(const QString& path) { return {path, prefs.LogoLeft, prefs.LogoTop}; }
+LogoChoice PreferredLogo(const QString& path) {
+  return {path, prefs.LogoLeft, prefs.LogoTop};
+}
 
 LogoChoice LogoUnderFormat() {
   if (!format.LogoPath.isEmpty()) {
@@ -27,14 +29,17 @@ LogoChoice LogoUnderFormat() {
   }
   if (prefs.LogoFile.isEmpty()) return {};
   if (HasFolder(prefs.LogoFile)) return PreferredLogo(ResolvePath(prefs.LogoFile));
-  if (FileExists(prefs.ProgramFolder, prefs.LogoFile)) return PreferredLogo(prefs.ProgramFolder + prefs.LogoFile);
+  if (FileExists(prefs.ProgramFolder, prefs.LogoFile))
+    return PreferredLogo(prefs.ProgramFolder + prefs.LogoFile);
   return {};
 }
 
 LogoChoice LogoWithoutFormat() {
   if (prefs.LogoFile.isEmpty()) return {};
-  // The installed logo lies in the program's folder; any other bare name is looked up where the program was started.
-  if (prefs.LogoFile == QLatin1String("events.jpg")) return PreferredLogo(prefs.ProgramFolder + prefs.LogoFile);
+  // The installed logo lies in the program's folder; any other bare name is looked up where the program was
+  // started.
+  if (prefs.LogoFile == QLatin1String("events.jpg"))
+    return PreferredLogo(prefs.ProgramFolder + prefs.LogoFile);
   return PreferredLogo(ResolvePath(prefs.LogoFile));
 }
 

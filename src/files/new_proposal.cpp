@@ -16,8 +16,6 @@ namespace quillane {
 
 namespace {
 
-const QString NoTitle = QStringLiteral("Proposal for (Client's Name)");
-
 // One step of the way to a blank proposal.  A step that fails is reported and costs itself and nothing else.
 template <class Body>
 void Step(Body&& body) {
@@ -26,7 +24,8 @@ void Step(Body&& body) {
 
 bool MayEndFormatSession() {
   if (!format.FormatSessionActive) return true;
-  if (AskYesNo(QStringLiteral("Proceeding with this action will end the editing session of your file format. Continue?"),
+  if (AskYesNo(QStringLiteral(
+                   "Proceeding with this action will end the editing session of your file format. Continue?"),
                QStringLiteral("Ending Format Editing")))
     return true;
   Tell(QStringLiteral("Resume Editing."));
@@ -38,7 +37,8 @@ QString DefaultSubTitle(const QString& kind) {
   return prefs.CompanyName + QStringLiteral(" - ") + kind + QStringLiteral(" Proposal - ");
 }
 
-// Nothing of the last proposal reaches the next but what belongs to the run: the mode, and that Save As was used.
+// Nothing of the last proposal reaches the next but what belongs to the run: the mode, and that Save As was
+// used.
 void ForgetFile() {
   ProposalState blank;
   blank.PageText = std::move(proposal.PageText);
@@ -83,7 +83,9 @@ bool FormatFills(int pageIndex, int area) {
          format.FormatTextRec[static_cast<size_t>(pageIndex)][static_cast<size_t>(area)].HasFormatText;
 }
 
-void Rest(Control& box, Color resting) { box.SetBackColor(editing.Focus == &box ? colors::Cyan : resting); }
+void Rest(Control& box, Color resting) {
+  box.SetBackColor(editing.Focus == &box ? colors::Cyan : resting);
+}
 
 void BlankAreas(Page& target) {
   for (Control& area : target.txt) {
@@ -120,7 +122,8 @@ void ResetStatus() {
 void TakeDefaultFormat(bool load) {
   if (!load) return;
   const QString& path = prefs.DefaultFileFormat;
-  const qsizetype folderEnd = std::max(path.lastIndexOf(QLatin1Char('\\')), path.lastIndexOf(QLatin1Char('/'))) + 1;
+  const qsizetype folderEnd =
+      std::max(path.lastIndexOf(QLatin1Char('\\')), path.lastIndexOf(QLatin1Char('/'))) + 1;
   format.FormatFolder = path.left(folderEnd);
   format.FormatName = path.mid(folderEnd);
   format.FormatIsOpen = true;
@@ -186,11 +189,9 @@ bool StartNewFile() {
   return true;
 }
 
-bool HasUnsavedChanges() { return ProposalHasChanged() || PropertyLinesDiffer(); }
-
 bool PromptSaveChanges() {
   TakeFocusedAmount();
-  if (!HasUnsavedChanges()) return true;
+  if (!ProposalHasChanged()) return true;
   const Answer answer =
       desk().MessageBox(QStringLiteral("Some text has been changed. Do you want to save the changes?"),
                         QStringLiteral("File Properties have been Changed"), Buttons::YesNoCancel);

@@ -17,8 +17,12 @@ namespace {
 
 constexpr QLatin1String TitleLine("frmP1.lbl(45)");
 
-LabelRecord& LabelRecOf(int p, int n) { return proposal.LabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)]; }
-TextAreaRecord& TextRecOf(int p, int n) { return proposal.TextRec[static_cast<size_t>(p)][static_cast<size_t>(n)]; }
+LabelRecord& LabelRecOf(int p, int n) {
+  return proposal.LabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)];
+}
+TextAreaRecord& TextRecOf(int p, int n) {
+  return proposal.TextRec[static_cast<size_t>(p)][static_cast<size_t>(n)];
+}
 
 using AreaTest = std::function<bool(int page, int area)>;
 
@@ -52,10 +56,12 @@ void ApplyText(Page& target, const PropertyLine& line) {
   record.PropChanged = false;
 }
 
-// The field file owns a row's columns: its text says whether the row has them, and the property file repeats it.  A
-// stored text that lost a sign to the field's width is plain text, and columns around it would lose the rest.
+// The field file owns a row's columns: its text says whether the row has them, and the property file repeats
+// it.  A stored text that lost a sign to the field's width is plain text, and columns around it would lose
+// the rest.
 bool RowFollowsLine(int pageIndex, int row, bool columns) {
-  if (format.FormatTextRec[static_cast<size_t>(pageIndex)][static_cast<size_t>(row)].HasFormatText) return true;
+  if (format.FormatTextRec[static_cast<size_t>(pageIndex)][static_cast<size_t>(row)].HasFormatText)
+    return true;
   const QString& stored = proposal.PageText[static_cast<size_t>(pageIndex)][static_cast<size_t>(row)];
   return columns ? !HasStrayMark(stored) : !SplitColumns(stored);
 }
@@ -124,12 +130,17 @@ void ApplyFontLine(const PropertyLine& line) {
 
 void ApplyLine(Page& target, const PropertyLine& line) {
   switch (line.word) {
-    case LineWord::Text: return ApplyText(target, line);
-    case LineWord::Columns: return ApplyColumns(target, line);
-    case LineWord::Label: return ApplyLabel(target, line);
-    case LineWord::UserFont: return ApplyFontLine(line);
+    case LineWord::Text:
+      return ApplyText(target, line);
+    case LineWord::Columns:
+      return ApplyColumns(target, line);
+    case LineWord::Label:
+      return ApplyLabel(target, line);
+    case LineWord::UserFont:
+      return ApplyFontLine(line);
     case LineWord::Logo:  // a proposal has no logo of its own; the line belongs to formats
-    case LineWord::None: return;
+    case LineWord::None:
+      return;
   }
 }
 
@@ -186,10 +197,9 @@ QStringList PropertyLinesNow() {
       [](int p, int i) { return page(p).columnsLoaded && page(p).IsRow(i) && page(p).HasColumns(i); });
 }
 
-bool PropertyLinesDiffer() { return PropertyLinesNow() != proposal.SavedPropertyLines; }
-
 QString PropertyFolder() {
-  return proposal.OpenedFromBackup || proposal.CurrentFolder.isEmpty() ? prefs.ProposalFolder : proposal.CurrentFolder;
+  return proposal.OpenedFromBackup || proposal.CurrentFolder.isEmpty() ? prefs.ProposalFolder
+                                                                       : proposal.CurrentFolder;
 }
 
 void SavePropertyFile(const QString& baseName) {
@@ -238,12 +248,11 @@ void ApplyUserFont() {
   const Scoped applying(editing.ApplyingFonts, true);
   const UserFont& font = proposal.UDP;
   for (int window = 0; window < ItemPages; ++window) {
-    Page& target = page(window);
-    for (auto* array : {&target.txt, &target.txtQty, &target.txtAmt, &target.lblAt, &target.lblEach}) {
-      for (Control& box : *array) {
-        const Font& now = box.GetFont();
-        box.SetFont({font.FontName, font.FontSize, now.bold, font.FontItalic, now.underline});
-        box.SetForeColor(font.FontColor);
+    SetMyFonts(page(window));
+    for (auto* array : {&page(window).lblAt, &page(window).lblEach}) {
+      for (Control& label : *array) {
+        label.SetFont({font.FontName, font.FontSize, false, font.FontItalic, false});
+        label.SetForeColor(font.FontColor);
       }
     }
   }

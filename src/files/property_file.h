@@ -9,12 +9,10 @@ namespace quillane {
 void AssignPropChanges();
 /// The lines that a save would write, read from the pages as they stand, without touching a mark.
 QStringList PropertyLinesNow();
-/// True when a save would write other lines than those last written or read.
-bool PropertyLinesDiffer();
 /// Writes proposal.PropertyLines to `baseName` + ".wpf".  Throws what ReplaceFile throws.
 void SavePropertyFile(const QString& baseName);
-/// Where property files are written and read: the folder of the open file, but the proposal folder for a proposal that
-/// came from the backup folder, which holds field files only.
+/// Where property files are written and read: the folder of the open file, but the proposal folder for a
+/// proposal that came from the backup folder, which holds field files only.
 QString PropertyFolder();
 /// Reads and applies the ".wpf" of the open proposal, if there is one.
 void ReadFileProperties();

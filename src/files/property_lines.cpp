@@ -12,8 +12,8 @@ namespace {
 
 enum class Presence { Required, Optional };
 
-// A value runs from the end of its key to `until`, or to the end of the line.  Values with blanks of their own run up
-// to the key that follows; there is no escape.
+// A value runs from the end of its key to `until`, or to the end of the line.  Values with blanks of their
+// own run up to the key that follows; there is no escape.
 struct KeySpec {
   const char* key;
   const char* until;
@@ -32,18 +32,26 @@ const std::vector<WordSpec>& Words() {
       {"txt",
        LineWord::Text,
        true,
-       {{".FontBold=", "", Presence::Optional}, {".Text=", "", Presence::Optional},
+       {{".FontBold=", "", Presence::Optional},
+        {".Text=", "", Presence::Optional},
         {".TaxExempt=", "", Presence::Optional}}},
       {"txq",
        LineWord::Columns,
        true,
-       {{".QtyBox=", " "}, {".QtyValue=", " .AmtValue=", Presence::Optional},
+       {{".QtyBox=", " "},
+        {".QtyValue=", " .AmtValue=", Presence::Optional},
         {".AmtValue=", "", Presence::Optional}}},
       {"lbl",
        LineWord::Label,
        true,
-       {{".Left=", " "}, {".Top=", " "}, {".Caption=", " .FontName="}, {".FontName=", " .FontBold="},
-        {".FontBold=", " "}, {".FontSize=", " "}, {".ForeColor=", " "}, {".FontItalic=", " ", Presence::Optional},
+       {{".Left=", " "},
+        {".Top=", " "},
+        {".Caption=", " .FontName="},
+        {".FontName=", " .FontBold="},
+        {".FontBold=", " "},
+        {".FontSize=", " "},
+        {".ForeColor=", " "},
+        {".FontItalic=", " ", Presence::Optional},
         {".FontUnderline=", "", Presence::Optional}}},
       {"pic", LineWord::Logo, false, {{".Picture=", " .Left="}, {".Left=", " "}, {".Top=", ""}}},
       {"UDP",
@@ -71,7 +79,8 @@ QString KeyName(const KeySpec& spec) {
   return key.mid(1, key.size() - 2);
 }
 
-std::map<QString, QString> TakeValues(const QString& body, const std::vector<KeySpec>& keys, const QString& line) {
+std::map<QString, QString> TakeValues(const QString& body, const std::vector<KeySpec>& keys,
+                                      const QString& line) {
   std::map<QString, QString> values;
   qsizetype position = 0;
   for (const KeySpec& spec : keys) {
@@ -99,7 +108,9 @@ int TakeIndex(const QString& line) {
   return index;
 }
 
-QString FlagText(bool value) { return value ? QStringLiteral("True") : QStringLiteral("False"); }
+QString FlagText(bool value) {
+  return value ? QStringLiteral("True") : QStringLiteral("False");
+}
 
 QString ControlName(int pageIndex, const char* array, int index) {
   return QStringLiteral("%1.%2(%3)").arg(page(pageIndex).form.name, QString::fromLatin1(array)).arg(index);
@@ -127,7 +138,9 @@ bool PropertyLine::Flag(const char* key) const {
   Raise(errors::TypeMismatch, QString::fromLatin1(key) + QLatin1Char('=') + text);
 }
 
-float PropertyLine::Single(const char* key) const { return ToSingle(Text(key)); }
+float PropertyLine::Single(const char* key) const {
+  return ToSingle(Text(key));
+}
 
 int PropertyLine::Integer(const char* key) const {
   bool isNumber = false;
@@ -161,17 +174,18 @@ QString ColumnsLine(int pageIndex, int row) {
 QString LabelLine(int pageIndex, int label, const LabelRecord& record) {
   // Joined piece by piece: a caption may hold "%1".
   return ControlName(pageIndex, "lbl", label) + QStringLiteral(".Left=") + SingleText(record.Left) +
-         QStringLiteral(" .Top=") + SingleText(record.Top) + QStringLiteral(" .Caption=") + OneLine(record.Caption) +
-         QStringLiteral(" .FontName=") + record.FontName + QStringLiteral(" .FontBold=") + FlagText(record.FontBold) +
-         QStringLiteral(" .FontSize=") + SingleText(record.FontSize) + QStringLiteral(" .ForeColor=") +
-         QString::number(record.ForeColor) + QStringLiteral(" .FontItalic=") + FlagText(record.FontItalic) +
-         QStringLiteral(" .FontUnderline=") + FlagText(record.FontUnderline);
+         QStringLiteral(" .Top=") + SingleText(record.Top) + QStringLiteral(" .Caption=") +
+         OneLine(record.Caption) + QStringLiteral(" .FontName=") + record.FontName +
+         QStringLiteral(" .FontBold=") + FlagText(record.FontBold) + QStringLiteral(" .FontSize=") +
+         SingleText(record.FontSize) + QStringLiteral(" .ForeColor=") + QString::number(record.ForeColor) +
+         QStringLiteral(" .FontItalic=") + FlagText(record.FontItalic) + QStringLiteral(" .FontUnderline=") +
+         FlagText(record.FontUnderline);
 }
 
 QString UserFontLine(const UserFont& font) {
-  return QStringLiteral("UDP.FontName=") + font.FontName + QStringLiteral(" .FontSize=") + SingleText(font.FontSize) +
-         QStringLiteral(" .FontColor=") + QString::number(font.FontColor) + QStringLiteral(" .FontItalic=") +
-         FlagText(font.FontItalic);
+  return QStringLiteral("UDP.FontName=") + font.FontName + QStringLiteral(" .FontSize=") +
+         SingleText(font.FontSize) + QStringLiteral(" .FontColor=") + QString::number(font.FontColor) +
+         QStringLiteral(" .FontItalic=") + FlagText(font.FontItalic);
 }
 
 void TakeLabelValues(const PropertyLine& line, LabelRecord& record) {

@@ -34,8 +34,8 @@ QString ColumnsLine(int page, int row);
 QString LabelLine(int page, int label, const LabelRecord& record);
 QString UserFontLine(const UserFont& font);
 
-/// The nine values of a label line, as the record keeps them; FontItalic and FontUnderline stay as they are in `record`
-/// when an older line does not state them.
+/// The nine values of a label line, as the record keeps them; FontItalic and FontUnderline stay as they are
+/// in `record` when an older line does not state them.
 void TakeLabelValues(const PropertyLine& line, LabelRecord& record);
 
 }  // namespace quillane

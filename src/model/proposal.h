@@ -88,7 +88,6 @@ struct ProposalState {
   QString BaseName, EventFileName, TextFileName, FootnoteFileName, DepositFileName;
   QString FootnoteText;
   QString CurrentFolder;  ///< the folder of the open file
-  unsigned long long FolderDevice = 0;  ///< the device that folder was on when the file was opened or saved; 0 unknown
   bool FileIsNamed = false, SavingAs = false, SaveCancelled = false, BackupInProgress = false;
   bool OpenedFromBackup = false;
   QString Mode;      ///< "Event", "Wedding", or empty
