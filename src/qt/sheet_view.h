@@ -1,25 +1,23 @@
 // Shows the page in front and turns what a person does into the page's handlers.
 #pragma once
 #include <QPointF>
+#include <QTransform>
 #include <QWidget>
 #include <functional>
-#include <vector>
 
 #include "model/page.h"
 #include "pages/areas.h"
 #include "print/draw.h"
 
-class QMimeData;
-
 namespace quillane {
 
 class LiveEditor;
 
-/// A press, a move or a release on the empty page or on a label.
+/// A press, a move or a release on the empty page, on a label or on the logo.
 struct PageMouseEvent {
   enum class What { Press, Move, Release, DoubleClick } what;
   Page& page;
-  Control* label;  ///< the label under the pointer; null for the empty page
+  Control* control;  ///< the label or the logo under the pointer; null for the empty page
   QPointF twips;
   Qt::MouseButton button;
   Qt::MouseButtons buttons;
@@ -48,6 +46,8 @@ class SheetView : public QWidget, private FormObserver {
   double TwipsPerPixel() const { return 15.0 / zoom_; }
   void SetDrawMode(DrawMode mode);  ///< Printing shows the preview; there is no editor then
 
+  /// From twips on the sheet to the view's pixels.
+  QTransform PageTransform() const;
   QPoint ToPixels(QPointF twips) const;
   QPointF ToTwips(QPointF pixels) const;
   QRect PixelRect(const Control& control) const;  ///< what the control covers on the screen
@@ -69,6 +69,11 @@ class SheetView : public QWidget, private FormObserver {
   /// Presses, moves and releases on the empty page and on labels.
   std::function<void(const PageMouseEvent&)> pageMouse;
 
+  // For the live editor: keys and committed texts, wherever they arrive.
+  void KeyDownEvent(QKeyEvent* event);
+  void KeyUpEvent(QKeyEvent* event);
+  void TypeText(const QString& text);
+
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -88,43 +93,49 @@ class SheetView : public QWidget, private FormObserver {
 
  private:
   friend class LiveEditor;
-  enum class Step { Went, Stopped };  ///< Stopped: a handler took the key, or moved the focus
+  enum class Step { Goes, Stopped };  ///< Stopped: a handler took the key, or the focus has moved
 
   void BeforeChange(Control& control, Aspect aspect) override;
   void AfterChange(Control& control, Aspect aspect) override;
   void MarkStale(const Control& control);
 
-  void PaintSheet(QPainter& painter, const QRect& stale);
-  void PlaceEditor();
-  void ShowFocused();
-  void Reveal(const Control& control);
-  void CaretToControl();
-  void TakeFromControl();
-  void TextToControl();
-
   Page& CurrentPage() const { return page(window_); }
-  void KeyDownEvent(QKeyEvent* event);
-  void KeyUpEvent(QKeyEvent* event);
+  double SheetLeft() const;
+  void PaintGround(QPainter& painter, const QRect& stale) const;
+  void PaintControls(QPainter& painter, const QRect& stale) const;
+  void PaintControl(QPainter& painter, Surface& surface, const Control& control) const;
+
+  void ShowEditor();
+  void PlaceEditor();
+  void Reveal(const Control& control);
+  bool Shows(const Control& control) const;
+  void CaretToControl();
+  void TextToControl();
+  void TakeFromControl();
+
+  template <class Body>
+  Step RunHandler(const char* name, Body&& body);
   Step RunKeyDown(const KeyEvent& key);
-  void Edit(QKeyEvent* event, const KeyEvent& key);
-  bool EditClipboard(QKeyEvent* event);
+  void RunKeyUp(const KeyEvent& key);
+  bool Edit(QKeyEvent* event, const KeyEvent& key);
+  bool EditClipboard(const QKeyEvent& event);
+  void Insert(const QString& text);
   void Paste();
-  void Copy();
-  void TypeText(const QString& text);
-  void PressArea(Control& area, QMouseEvent* event);
-  void TellPage(PageMouseEvent::What what, QMouseEvent* event);
+  void PressArea(Control& area, const QMouseEvent& event);
+  float EditorX(const QMouseEvent& event) const;
+  void TellPage(PageMouseEvent::What what, const QMouseEvent& event);
+  Control* DropTarget(const QDropEvent& event) const;
 
   int window_ = 0;
   int scroll_ = 0;
   double zoom_ = 1;
-  double pan_ = 0;  ///< pixels by which a view narrower than the sheet is moved to the right
+  double pan_ = 0;  ///< pixels by which a view narrower than the sheet has moved to the right
   DrawMode mode_ = DrawMode::Editing;
-  LiveEditor* editor_;  ///< a child, owned by the widget tree
-  Control* focused_ = nullptr;
-  Control* pressed_ = nullptr;  ///< what the button went down on
-  bool pressedInEditor_ = false;
-  bool syncing_ = false;
-  int staleRects_ = 0;  ///< asked for since the last paint
+  LiveEditor* editor_;          ///< a child, owned by the widget tree
+  Control* focused_ = nullptr;  ///< the text box under the editor
+  Control* pressed_ = nullptr;  ///< what a button went down on
+  bool syncing_ = false;        ///< the control is being told what the editor has
+  int staleRects_ = 0;          ///< asked for since the last paint
 };
 
 /// The view of this process; null before it is made.

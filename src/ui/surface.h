@@ -19,6 +19,9 @@ class Surface {
  public:
   virtual ~Surface() = default;
   virtual void SetOrigin(float scaleLeft, float scaleTop) = 0;
+  /// The origin as it stands; a surface that never moves it keeps these.
+  virtual float ScaleLeft() const { return 0; }
+  virtual float ScaleTop() const { return 0; }
   virtual void SetFont(const Font& font) = 0;
   virtual void SetColor(Color color) = 0;
   /// Prints one line of text whose top left corner is (x, y).

@@ -1,0 +1,115 @@
+#include "qt/pictures.h"
+
+#include <QCache>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <map>
+#include <memory>
+
+#include "platform/runtime_error.h"
+
+namespace quillane {
+
+namespace {
+
+constexpr qint64 MostPixels = 100'000'000;  // a damaged or hostile header must not take all the memory
+constexpr float TwipsPerPixel = 15;
+constexpr qsizetype CacheKilobytes = 16 * 1024;
+
+bool IsDrawing(const QString& source) {
+  return source.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
+}
+
+/// A file that was replaced by another of the same name is another picture.
+QString Stamp(const QString& source) {
+  if (source.startsWith(QLatin1Char(':'))) return source;
+  const QFileInfo file(source);
+  return QStringLiteral("%1|%2|%3").arg(source).arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
+}
+
+void CheckSize(QSize size, const QString& source) {
+  if (size.isEmpty() || qint64{size.width()} * size.height() > MostPixels)
+    Raise(errors::InvalidPicture, source);
+}
+
+QSvgRenderer& Drawing(const QString& source) {
+  static std::map<QString, std::unique_ptr<QSvgRenderer>> drawings;
+  std::unique_ptr<QSvgRenderer>& drawing = drawings[source];
+  if (!drawing) drawing = std::make_unique<QSvgRenderer>(source);
+  if (!drawing->isValid()) Raise(errors::InvalidPicture, source);
+  return *drawing;
+}
+
+QSize SizeOnDisplay(const QImageReader& reader) {
+  const QSize size = reader.size();
+  return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90) ? size.transposed() : size;
+}
+
+QImage ReadImage(const QString& source) {
+  if (!QFileInfo::exists(source)) Raise(errors::FileNotFound, source);
+  QImageReader reader(source);
+  reader.setAutoTransform(true);
+  reader.setDecideFormatFromContent(true);
+  CheckSize(reader.size(), source);
+  QImage image = reader.read();
+  if (image.isNull()) Raise(errors::InvalidPicture, source);
+  return image;
+}
+
+QImage Rendered(const QString& source, QSize pixels) {
+  if (!IsDrawing(source))
+    return ReadImage(source).scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  Drawing(source).render(&painter);
+  return image;
+}
+
+/// A picture at the size in which it shows, made once.
+QImage Scaled(const QString& source, QSize pixels) {
+  static QCache<QString, QImage> cache(CacheKilobytes);
+  const QString key = QStringLiteral("%1|%2x%3").arg(Stamp(source)).arg(pixels.width()).arg(pixels.height());
+  if (const QImage* known = cache.object(key)) return *known;
+  QImage image = Rendered(source, pixels);
+  cache.insert(key, new QImage(image), image.sizeInBytes() / 1024 + 1);  // the cache owns it
+  return image;
+}
+
+}  // namespace
+
+Picture ReadPicture(const QString& source) {
+  if (!QFileInfo::exists(source)) Raise(errors::FileNotFound, source);
+  QSize size;
+  if (IsDrawing(source)) {
+    size = Drawing(source).defaultSize();
+  } else {
+    QImageReader reader(source);
+    reader.setAutoTransform(true);
+    reader.setDecideFormatFromContent(true);
+    size = SizeOnDisplay(reader);
+  }
+  CheckSize(size, source);
+  return {source, static_cast<float>(size.width()) * TwipsPerPixel,
+          static_cast<float>(size.height()) * TwipsPerPixel};
+}
+
+void DrawPicture(QPainter& painter, const QString& source, const QRectF& target) {
+  if (painter.paintEngine()->type() == QPaintEngine::Raster) {
+    const QRectF device = painter.deviceTransform().mapRect(target);
+    const QSize pixels = device.size().toSize().expandedTo(QSize(1, 1));
+    CheckSize(pixels, source);
+    painter.drawImage(target, Scaled(source, pixels));
+  } else if (IsDrawing(source)) {
+    Drawing(source).render(&painter, target);
+  } else {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, ReadImage(source));
+  }
+}
+
+}  // namespace quillane
