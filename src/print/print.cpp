@@ -1,13 +1,210 @@
 #include "print/print.h"
 
+#include <memory>
+
+#include "model/frame.h"
+#include "model/proposal.h"
+#include "model/report.h"
+#include "model/upcalls.h"
+#include "pages/titles.h"
+#include "pages/totals.h"
+#include "platform/files.h"
+#include "platform/numbers.h"
+#include "print/draw.h"
+#include "ui/desk.h"
+
 namespace quillane {
-void PrintTheForm() {}
-void PrintPageCommand(int) {}
-void PrintAllCommand() {}
-void CancelPrint() {}
-void LoadTheFonts() {}
-void FindPrinter() {}
-void ReadPrinterOffsets() {}
-float PrinterTextWidth(const Control&, const QString&) { return 0; }
-const QString& PrintMessage() { static const QString none; return none; }
+
+namespace {
+
+constexpr float TwipsPerInch = 1440;
+constexpr int TotalsPage = 5;
+
+/// The document that is being drawn; gone once "Cancel Print" has dropped it.
+std::unique_ptr<Surface>& Document() {
+  static std::unique_ptr<Surface> document;
+  return document;
+}
+
+QString& Message() {
+  static QString message;
+  return message;
+}
+
+const Page* PageNamed(const QString& name) {
+  for (int i = 0; i < PageCount; ++i)
+    if (page(i).form.name == name) return &page(i);
+  return nullptr;
+}
+
+QString DocumentName(const Page& printed) {
+  QString name = proposal.BaseName.isEmpty() ? QStringLiteral("Proposal") : proposal.BaseName;
+  name.replace(QLatin1Char('/'), QLatin1Char('-'));  // a client's name may have what a file's may not
+  name += QStringLiteral(" - Page %1").arg(printed.pageIndex + 1);
+  return printed.window == CopyOfPage6 ? name + QStringLiteral(" Copy") : name;
+}
+
+QString PdfPath(const Page& printed) {
+  const QString& folder = proposal.CurrentFolder.isEmpty() ? prefs.ProposalFolder : proposal.CurrentFolder;
+  return WithSeparator(folder) + DocumentName(printed) + QStringLiteral(".pdf");
+}
+
+void DrawDocument(const Page& printed) {
+  Document() = desk().BeginDocument(printing.CurrentPrinter, DocumentName(printed), PdfPath(printed));
+  if (!Document()) Raise(errors::Printer, printing.CurrentPrinter);
+  if (printing.PrinterXOffset != 0 || printing.PrinterYOffset != 0)
+    Document()->SetOrigin(printing.PrinterXOffset, printing.PrinterYOffset);
+  desk().ServeEvents();
+  if (!Document()) return;
+  DrawPage(*Document(), printed, DrawMode::Printing);
+  editing.ButtonPressed = false;
+  Document()->EndDoc();
+}
+
+void ReportPrintError(const RuntimeError& error) {
+  if (error.Number() == errors::Printer)
+    Tell(QStringLiteral("An error occurred trying to access the system default printer."));
+  else
+    ReportProgramError(QStringLiteral("PrintTheForm"), error);
+}
+
+/// What is printed must add up: an amount that still has the focus counts, and so does what a move left
+/// behind.
+void BringTotalsUpToDate() {
+  TakeFocusedAmount();
+  const auto sums = proposal.PageSubTotal, taxable = proposal.PageTaxable;
+  CalculateAllPages();
+  if (sums != proposal.PageSubTotal || taxable != proposal.PageTaxable) RecalculateTotals(0);
+}
+
+QString MessageFor(const Page& printed) {
+  const int number = printed.pageIndex == TotalsPage ? proposal.HighestPage : printed.pageIndex + 1;
+  const QString text = QStringLiteral("Printing Page %1 of %2").arg(number).arg(proposal.HighestPage);
+  return printed.window == CopyOfPage6 ? text + QStringLiteral(" Copy") : text;
+}
+
+void PrintOne(int window) {
+  const Page& printed = page(window);
+  FindHighestPage();
+  UpdatePageNumbers();
+  editing.CurrentFormName = printed.form.name;
+  Message() = MessageFor(printed);
+  desk().ShowWindow(QStringLiteral("frmDialog"), Modality::Modeless);
+  PrintTheForm();
+  desk().CloseWindow(QStringLiteral("frmDialog"));
+}
+
+float WidthForStatus(Control& area, const QString& text) {
+  return PrinterTextWidth(area, text);
+}
+
+/// What stands behind `key` in the file, up to the end of its line.
+QString OffsetText(const QString& text, const QString& key) {
+  const qsizetype from = text.indexOf(key) + key.size();
+  const qsizetype end = text.indexOf(QLatin1Char('\n'), from);
+  return (end < 0 ? text.mid(from) : text.mid(from, end - from)).trimmed();
+}
+
+float OffsetIn(const QString& text) {
+  return text.isEmpty() ? 0 : ToSingle(text) * TwipsPerInch;
+}
+
+}  // namespace
+
+void PrintTheForm() {
+  if (TotalsAreStale()) RecalculateTotals(0);
+  ReadPrinterOffsets();
+  const Scoped rebuilding(editing.RebuildingPages, true);
+  const Page* printed = PageNamed(editing.CurrentFormName);
+  if (!printed) return;
+  try {
+    DrawDocument(*printed);
+  } catch (const RuntimeError& error) {
+    ReportPrintError(error);
+  }
+  Document().reset();
+}
+
+void PrintPageCommand(int window) {
+  FindPrinter();
+  if (printing.NoPrinter != 0) return;
+  BringTotalsUpToDate();
+  PrintOne(window);
+}
+
+void PrintAllCommand() {
+  FindPrinter();
+  if (printing.NoPrinter != 0) return Tell(QStringLiteral("Printer Error 482. Printer not found."));
+  FindHighestPage();
+  const int highest = proposal.HighestPage;
+  if (highest < 2 || highest > 6 || printing.PrintCancelled) return;
+  BringTotalsUpToDate();
+  // Last page first, so that a stack that lies face up comes out in order.
+  PrintOne(CopyOfPage6);
+  PrintOne(TotalsPage);
+  for (int window = highest - 2; window >= 0; --window) PrintOne(window);
+}
+
+void CancelPrint() {
+  printing.PrintCancelled = true;
+  if (Document()) Document()->KillDoc();
+  Document().reset();
+  desk().CloseWindow(QStringLiteral("frmDialog"));
+}
+
+void FindPrinter() {
+  const QString system = desk().DefaultPrinterName();
+  if (!prefs.DefaultPrinter.isEmpty() && desk().PrinterNames().contains(prefs.DefaultPrinter))
+    printing.CurrentPrinter = prefs.DefaultPrinter;
+  else  // the PDF file is a printer only for those who chose it
+    printing.CurrentPrinter = system == PdfPrinter ? QString() : system;
+  printing.NoPrinter = printing.CurrentPrinter.isEmpty() ? errors::Printer : 0;
+  upcalls().PrinterWidth = printing.NoPrinter != 0 ? nullptr : WidthForStatus;
+}
+
+void LoadTheFonts() {
+  // The splash serves events meanwhile, and a click on it may ask again.
+  static bool reading = false;
+  if (reading) return;
+  const Scoped now(reading, true);
+  Guarded("LoadTheFonts", [] {
+    FindPrinter();
+    if (printing.NoPrinter != 0)
+      Tell(
+          QStringLiteral("Default Printer could not be found. Loading screen fonts\n"
+                         "instead. This could take 1 to 2 minutes... please wait."));
+    // A printer here prints every font that the screen has.
+    printing.PrinterFontNames.clear();
+    for (const QString& name : desk().ScreenFonts()) {
+      desk().ServeEvents();
+      printing.PrinterFontNames.append(name);
+    }
+    printing.FontsLoaded = true;
+  });
+}
+
+void ReadPrinterOffsets() {
+  Guarded("ReadPrinterOffsets", [] {
+    printing.PrinterXOffset = printing.PrinterYOffset = 0;
+    const QString name = QStringLiteral("PrinterOffsets.txt");
+    if (!FileExists(prefs.ProposalFolder, name)) return;
+    const QString text = QString::fromLatin1(ReadWholeFile(prefs.ProposalFolder + name));
+    const QString xKey = QStringLiteral("Printer X Offset:"), yKey = QStringLiteral("Printer Y Offset:");
+    if (!text.contains(xKey)) return;
+    printing.PrinterXOffset = OffsetIn(OffsetText(text, xKey));
+    if (!text.contains(yKey)) return;
+    printing.PrinterYOffset = OffsetIn(OffsetText(text, yKey));
+  });
+}
+
+float PrinterTextWidth(const Control& area, const QString& text) {
+  Font font = area.GetFont();
+  font.italic = font.underline = false;
+  return TextWidth(font, text) / TwipsPerInch;
+}
+
+const QString& PrintMessage() {
+  return Message();
+}
+
 }  // namespace quillane

@@ -1,0 +1,72 @@
+// The desk of these tests: no box waits for an answer, and the only printer is the PDF file.
+#pragma once
+#include <QFile>
+#include <QList>
+#include <QTemporaryDir>
+
+#include "model/frame.h"
+#include "model/proposal.h"
+#include "pages/areas.h"
+#include "pages/defaults.h"
+#include "pages/titles.h"
+#include "qt/pictures.h"
+#include "qt/printers.h"
+#include "qt/qt_desk.h"
+
+namespace quillane::test {
+
+class PaperDesk : public QtDesk {
+ public:
+  PaperDesk() { SetDesk(this); }
+
+  QStringList said, shown, documents;
+  QString clipboard;
+  std::function<void()> onServe;  ///< what a person does while the program serves events
+
+  Answer MessageBox(const QString& text, const QString&, Buttons) override {
+    said.append(text);
+    return Answer::Cancel;
+  }
+  void ShowWindow(const QString& name, Modality) override { shown.append(name); }
+  void CloseWindow(const QString&) override {}
+  QString ClipboardText() const override { return clipboard; }
+  void SetClipboardText(const QString& text) override { clipboard = text; }
+  QStringList PrinterNames() const override { return {QStringLiteral("PDF File")}; }
+  QString DefaultPrinterName() const override { return {}; }
+  std::unique_ptr<Surface> BeginDocument(const QString& printer, const QString& title,
+                                         const QString& path) override {
+    documents.append(path);
+    return printers::BeginDocument(printer, title, path);
+  }
+  Picture LoadPicture(const QString& path) override { return ReadPicture(path); }
+  void ServeEvents() override {
+    if (onServe) onServe();
+  }
+  void Beep() override {}
+};
+
+/// A fresh program with default pages and a folder of its own.
+struct FreshPages {
+  PaperDesk desk;
+  QTemporaryDir folder;
+
+  FreshPages() {
+    ResetState();
+    prefs.ProposalFolder = folder.path() + QLatin1Char('/');
+    prefs.CompanyName = QStringLiteral("Alder Events");
+    prefs.CurrencySymbol = QStringLiteral("$");
+    prefs.DefaultPrinter = QStringLiteral("PDF File");
+    proposal.SubTitle = QStringLiteral("Alder Events - Event Proposal - ");
+    const Scoped building(editing.RebuildingPages, true);
+    SetUpPages();
+    ShowDefaultPages();
+    for (int i = 0; i < PageCount; ++i) {
+      LoadColumns(page(i));
+      ShowPageControls(page(i));
+    }
+    UpdateEventNameLabels();
+    InstallPageHandlers();
+  }
+};
+
+}  // namespace quillane::test
