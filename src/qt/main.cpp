@@ -18,10 +18,14 @@ QString ProgramFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quillane/");
 }
 
-/// What is installed beside the program; a program run where it was built is told where that lies.
+/// What is installed beside the program, wherever that is; a program run where it was built is told where it
+/// lies.
 QString DataFolder() {
   const QString told = qEnvironmentVariable("QUILLANE_DATA");
-  return told.isEmpty() ? QStringLiteral(QUILLANE_DATA_DIR) : told;
+  if (!told.isEmpty()) return told;
+  const QString beside =
+      QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quillane"));
+  return QDir(beside).exists() ? beside : QStringLiteral(QUILLANE_DATA_DIR);
 }
 
 }  // namespace
