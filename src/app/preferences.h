@@ -6,30 +6,71 @@ namespace quillane {
 
 /// The 32 settings, by their place in the file.
 enum class Setting {
-  FirstInstance, SharedDirectory, CompanyName, CompanyAddress1, CompanyAddress2, CompanyCity, CompanyPhone, CompanyFax,
-  CompanyWebsite, CompanyEmail, PageTitle, LogoFile, LogoLeft, LogoTop, AutoCompleteWord, AutoStartPosition, ShowFUT,
-  MinimizeFUT, ShowCalc, DefaultFileFormat, LoadDefaultFormat, DefaultPrinter, CurrencySymbol, FrequentTermsFile,
-  LoadFUT, PageTitles, FUTPosition, FontName, FontSize, FontColor, FontItalic, LogoVisible, Count
+  FirstInstance,
+  SharedDirectory,
+  CompanyName,
+  CompanyAddress1,
+  CompanyAddress2,
+  CompanyCity,
+  CompanyPhone,
+  CompanyFax,
+  CompanyWebsite,
+  CompanyEmail,
+  PageTitle,
+  LogoFile,
+  LogoLeft,
+  LogoTop,
+  AutoCompleteWord,
+  AutoStartPosition,
+  ShowFUT,
+  MinimizeFUT,
+  ShowCalc,
+  DefaultFileFormat,
+  LoadDefaultFormat,
+  DefaultPrinter,
+  CurrencySymbol,
+  FrequentTermsFile,
+  LoadFUT,
+  PageTitles,
+  FUTPosition,
+  FontName,
+  FontSize,
+  FontColor,
+  FontItalic,
+  LogoVisible,
+  Count
 };
 /// "Company Name:" and so on.
 QString SettingKey(Setting setting);
 
-/// Reads the file and sets all of `prefs`; may ask questions and create folders.
+/// Reads the file and sets all of `prefs`; may ask questions and create folders.  A setting is found by its
+/// place alone.  What a session changes on its own (the font in use, the subtitle, the logo's place, the
+/// format's folder, the terms and auto-complete, CurrentFolder) is copied at the first reading only.  Errors
+/// are reported, and the program goes on with what was read; prefs.Read then stays false.
 void GetUserPreferences();
-/// Writes prefs.PrefLines.
-void SaveUserPreferences();
-/// Replaces one line; SaveUserPreferences and GetUserPreferences make it count.
+enum class Saved { No, Yes };
+/// Writes prefs.PrefLines.  An error is reported.
+Saved SaveUserPreferences();
+/// Replaces one line; SaveUserPreferences and GetUserPreferences make it count.  Throws 53 when no
+/// preferences could be read: a file is never made from nothing.
 void SetPrefLine(Setting setting, const QString& value);
 /// SetPrefLine, SaveUserPreferences, GetUserPreferences.
-void StorePreference(Setting setting, const QString& value);
+Saved StorePreference(Setting setting, const QString& value);
+/// "True" or "False".
+QString BooleanText(bool value);
 
+/// mnuOptNetwork: asks for the drive letter of the share.
 void RequestNetworkSharePath();
+/// mnuOptCurrencySymbol.
 void CurrencySymbolCommand();
+/// mnuOptSetDefaultFonts: the font in use becomes the default.
 void SaveDefaultFontCommand();
 
-/// The rules of frmPref: what its boxes show at first, and what cmdSave stores.
+/// The rules of frmPref: what its boxes show at first, and what cmdSave stores.  Several boxes say "Do Not"
+/// and so are checked when their setting is false.
 struct PreferenceBoxes {
   bool ShowFUT, MinimizeFUT, ShowCalc, ACEnable, ACStart, LoadDefaultFormat, LoadFUT;  ///< chk*: checked
+  bool operator==(const PreferenceBoxes&) const = default;
 };
 PreferenceBoxes BoxesFromPreferences();
 void SavePreferenceBoxes(const PreferenceBoxes& boxes);

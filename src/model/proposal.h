@@ -171,6 +171,7 @@ struct TaxState {
 struct Preferences {
   QStringList PrefLines;
   bool Reading = false, Read = false;
+  bool SessionCopiesTaken = false;  ///< what a session changes on its own has been copied; later readings leave it
   bool FirstInstance = false;
   QString SharedDirectory, CompanyName, CompanyAddress1, CompanyAddress2, CompanyCity, CompanyPhone, CompanyFax,
       CompanyWebsite, CompanyEmail, PageTitle, LogoFile;
