@@ -230,7 +230,7 @@ TEST_F(CommandTable, AFailingCommandIsReportedUnderItsNameOnce) {
   RunCommand("mnuHelpTutorial");  // the folder has no help
   ASSERT_EQ(desk.said.size(), 1);
   EXPECT_EQ(desk.said[0].title, "Program Error");
-  EXPECT_TRUE(desk.said[0].text.contains("An error occurred in mnuHelpTutorial.\r\nError Number: 53"));
+  EXPECT_TRUE(desk.said[0].text.contains("An error occurred in mnuHelpTutorial.\nError Number: 53"));
 }
 
 TEST_F(CommandTable, ShortcutsAreEntriesOnTheDesktopAndAmongTheApplications) {
