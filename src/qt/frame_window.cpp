@@ -4,10 +4,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
+#include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "app/commands.h"
 #include "app/startup.h"

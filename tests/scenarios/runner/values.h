@@ -1,0 +1,39 @@
+// Comparing what a script expects with what is there.
+#pragma once
+#include <QString>
+#include <optional>
+
+#include "ui/font.h"
+
+namespace quillane::scenario {
+
+/// How a property's values compare.
+enum class ValueKind {
+  Text,     ///< letter for letter
+  Name,     ///< without regard to case: font names
+  Number,   ///< as numbers
+  Twips,    ///< as numbers, half a twip apart at most
+  Colour,   ///< as 32-bit integers, decimal or hexadecimal
+  Boolean,  ///< "True" and "False", -1, 1 and 0
+};
+
+struct Value {
+  ValueKind kind = ValueKind::Text;
+  QString text;
+};
+
+Value TextValue(const QString& text);
+Value NumberValue(double number);
+Value TwipsValue(double twips);
+Value ColourValue(Color colour);
+Value BooleanValue(bool value);
+
+/// "&H80", "0x80" or decimal.
+std::optional<double> ReadNumber(const QString& text);
+/// True when `expected`, as a script writes it, is the value.
+bool Equal(const Value& actual, const QString& expected);
+
+/// In quotes, with line breaks and quotes escaped as scripts write them.
+QString InQuotes(QString text);
+
+}  // namespace quillane::scenario
