@@ -68,8 +68,9 @@ void DrawLogo(Surface& surface, const Control& logo, DrawMode mode) {
 }
 
 void DrawMark(Surface& surface, const Control& mark) {
-  if (mark.GetPicture().source.isEmpty()) return;
-  surface.PaintPicture(mark.GetPicture(), mark.Left(), mark.Top(), mark.Width(), mark.Height());
+  Picture picture = mark.GetPicture();
+  if (picture.source.isEmpty()) picture.source = QStringLiteral(":/icons/no-tax.svg");
+  surface.PaintPicture(picture, mark.Left(), mark.Top(), mark.Width(), mark.Height());
 }
 
 void DrawRule(Surface& surface, const Control& line) {
@@ -87,7 +88,9 @@ Box EditingBox(const Control& control) {
   const Box box{control.Left(), control.Top(), control.Width(), control.Height()};
   switch (control.GetKind()) {
     case Kind::TextBox:
-      return {box.left - EditingInset, box.top, box.width + EditingInset, box.height};
+      // A row with columns ends short of the "@" behind it by as much as it begins early.
+      return {box.left - EditingInset, box.top,
+              box.width + (box.width == sheet::ColumnsWidth ? 0 : EditingInset), box.height};
     case Kind::Picture:
       return {box.left, box.top, std::max(box.width, control.GetPicture().width),
               std::max(box.height, control.GetPicture().height)};

@@ -12,6 +12,7 @@
 #include "platform/runtime_error.h"
 #include "qt/live_editor.h"
 #include "qt/painter_surface.h"
+#include "qt/sheet_accessible.h"
 
 namespace quillane {
 
@@ -33,6 +34,7 @@ SheetView* TheSheetView() {
 }
 
 SheetView::SheetView(QWidget* parent) : QWidget(parent), editor_(new LiveEditor(*this)) {
+  InstallSheetAccessible();
   setObjectName(QStringLiteral("sheet"));
   setAccessibleName(QStringLiteral("Proposal page"));
   setFocusPolicy(Qt::StrongFocus);
@@ -155,6 +157,7 @@ void SheetView::ShowEditor() {
   PlaceEditor();
   editor_->show();
   editor_->setFocus();
+  TellAreaFocused(*editor_);
 }
 
 void SheetView::PlaceEditor() {
@@ -169,7 +172,9 @@ void SheetView::Reveal(const Control& control) {
   const double before = pan_;
   const double limit = std::max(0.0, double{sheet::Width} / TwipsPerPixel() - width());
   if (place.right() > width()) pan_ += place.right() - width() + EdgeWidth;
-  if (place.left() < 0) pan_ += place.left() - EdgeWidth;
+  // Where not all of it fits, its beginning is what a person looks for.
+  const double left = place.left() - (pan_ - before);
+  if (left < 0) pan_ += left - EdgeWidth;
   pan_ = std::clamp(pan_, 0.0, limit);
   if (std::abs(pan_ - before) >= 1) update();
 }
@@ -257,12 +262,15 @@ void SheetView::PaintGround(QPainter& painter, const QRect& stale) const {
   const QRect paper =
       PageTransform().mapRect(QRectF(0, 0, double{sheet::Width}, double{sheet::Height})).toRect();
   if (!paper.contains(stale)) {
+    // Shading is slow, and under the paper nobody would see it.
+    painter.setClipRegion(QRegion(stale) - paper);
     painter.fillRect(stale, palette().color(QPalette::Window).darker(108));
     for (int i = EdgeWidth; i > 0; --i) {
       const int strength = (EdgeWidth - i + 1) * (EdgeWidth - i + 1) / 6 + 2;
       painter.fillRect(paper.adjusted(-i / 2, 0, i / 2, i), QColor(0, 0, 0, strength));
     }
     painter.fillRect(paper.adjusted(-1, 0, 1, 1), QColor(0, 0, 0, 40));
+    painter.setClipping(false);
   }
   painter.fillRect(paper & stale, Qt::white);
 }

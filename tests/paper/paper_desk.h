@@ -53,6 +53,7 @@ struct FreshPages {
   FreshPages() {
     ResetState();
     prefs.ProposalFolder = folder.path() + QLatin1Char('/');
+    prefs.ProgramFolder = prefs.ProposalFolder;
     prefs.CompanyName = QStringLiteral("Alder Events");
     prefs.CurrencySymbol = QStringLiteral("$");
     prefs.DefaultPrinter = QStringLiteral("PDF File");

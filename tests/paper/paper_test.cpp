@@ -2,9 +2,12 @@
 
 #include <QDir>
 #include <QRegularExpression>
+#include <cerrno>
 
 #include "paper_desk.h"
 #include "pdf_text.h"
+#include "platform/files.h"
+#include "platform/runtime_error.h"
 #include "print/draw.h"
 #include "print/print.h"
 
@@ -77,6 +80,85 @@ TEST_F(Paper, PutsEveryTextOfEveryPageAtItsPlaceAndPrintsNothingElse) {
     }
     EXPECT_EQ(static_cast<qsizetype>(sheet.words.size()), words) << "on window " << window;
   }
+}
+
+TEST_F(Paper, EndsAmountsAtTheRightEdgeOfTheirColumn) {
+  struct Case {
+    int window;
+    size_t area;
+    const char* text;
+    float right;
+  };
+  constexpr Case cases[] = {{0, 28, "1.00", 11520},
+                            {1, 35, "12,345.67", 11340},
+                            {4, 69, "-3.50", 11340},
+                            {5, 2, "82.18", 4500},
+                            {6, 5, "9,999.00", 11160}};
+  for (const Case& given : cases) {
+    {
+      const Scoped building(editing.RebuildingPages, true);
+      page(given.window).txt[given.area].SetText(QString::fromLatin1(given.text));
+    }
+    const PdfPage sheet = Print(given.window);
+    EXPECT_TRUE(HasTextEndingAt(sheet, QString::fromLatin1(given.text), given.right,
+                                page(given.window).txt[given.area].Top()))
+        << given.text;
+  }
+}
+
+TEST_F(Paper, KeepsEveryCharacterOfTheCodePageAsText) {
+  const QString text = QString::fromUtf8("Sofía Marín-Núñez – “€ 5” ½ Œuvre");
+  {
+    const Scoped building(editing.RebuildingPages, true);
+    page(0).txt[2].SetText(text);
+  }
+  EXPECT_TRUE(HasTextAt(Print(0), text, page(0).txt[2].Left(), page(0).txt[2].Top()));
+}
+
+TEST_F(Paper, ReplacesTheFileOfTheLastPrintAndKeepsItWhenTheNextFails) {
+  proposal.BaseName = QStringLiteral("Emily Carter");
+  Print(1);
+  const QString path = fresh.desk.documents.value(0);
+  EXPECT_EQ(path, prefs.ProposalFolder + QStringLiteral("Emily Carter - Page 2.pdf"));
+  {
+    const Scoped building(editing.RebuildingPages, true);
+    page(1).txt[0].SetText(QStringLiteral("Later"));
+  }
+  EXPECT_FALSE(FindText(Print(1), QStringLiteral("Later")).empty());
+  SetFaultHook([](const char* step, const QString&) {
+    return QLatin1String(step) == QLatin1String("write") ? ENOSPC : 0;
+  });
+  {
+    const Scoped building(editing.RebuildingPages, true);
+    page(1).txt[0].SetText(QStringLiteral("Lost"));
+  }
+  EXPECT_FALSE(FindText(Print(1), QStringLiteral("Later")).empty());
+  SetFaultHook(nullptr);
+  EXPECT_TRUE(fresh.desk.said.value(0).contains(QStringLiteral("PrintTheForm")));
+  EXPECT_EQ(
+      QDir(prefs.ProposalFolder).entryList({QStringLiteral("*.pdf")}, QDir::Files | QDir::Hidden).size(), 1);
+}
+
+TEST_F(Paper, RefusesAPictureThatIsTooLargeOrNone) {
+  const auto refusal = [](const QString& source) {
+    try {
+      ReadPicture(source);
+    } catch (const RuntimeError& error) {
+      return error.Number();
+    }
+    return 0;
+  };
+  // A bitmap that is all header: it claims 20,000 by 20,000 pixels.
+  QByteArray huge =
+      QByteArray::fromHex("424d36000000000000003600000028000000204e0000204e00000100180000000000");
+  huge.append(64, '\0');
+  const QString path = prefs.ProposalFolder + QStringLiteral("huge.bmp");
+  ReplaceFile(path, huge);
+  ReplaceFile(prefs.ProposalFolder + QStringLiteral("words.jpg"), "no picture");
+  EXPECT_EQ(refusal(path), errors::InvalidPicture);
+  EXPECT_EQ(refusal(prefs.ProposalFolder + QStringLiteral("words.jpg")), errors::InvalidPicture);
+  EXPECT_EQ(refusal(prefs.ProposalFolder + QStringLiteral("gone.jpg")), errors::FileNotFound);
+  EXPECT_EQ(refusal(QStringLiteral(":/icons/no-tax.svg")), 0);
 }
 
 }  // namespace

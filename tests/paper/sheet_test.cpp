@@ -1,0 +1,352 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include "model/focus.h"
+#include "model/upcalls.h"
+#include "paper_desk.h"
+#include "platform/codepage.h"
+#include "qt/sheet_view.h"
+
+using namespace quillane;
+using namespace quillane::test;
+
+namespace {
+
+class Sheet : public testing::Test {
+ protected:
+  FreshPages fresh;
+  SheetView view;
+
+  void SetUp() override {
+    upcalls().UpdatePageButtons = [](int window) { TheSheetView()->ShowPage(window); };
+    view.resize(900, 1080);
+    view.show();
+    Front(1);
+  }
+  void TearDown() override { upcalls() = Upcalls(); }
+
+  void Front(int window) {
+    view.ShowPage(window);
+    SetFocus(page(window).txt[0]);
+  }
+  QLineEdit& Editor() { return *qobject_cast<QLineEdit*>(view.Editor()); }
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&Editor(), key, modifiers); }
+  void Type(const char* text) { QTest::keyClicks(&Editor(), QString::fromUtf8(text)); }
+  void Commit(const char* text) {
+    QInputMethodEvent event;
+    event.setCommitString(QString::fromUtf8(text));
+    QApplication::sendEvent(&Editor(), &event);
+  }
+  QPoint Inside(const Control& control) { return view.PixelRect(control).center(); }
+  void Click(const Control& control, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(&view, button, {}, Inside(control));
+  }
+  std::string Focus() { return editing.Focus ? editing.Focus->FullName().toStdString() : "none"; }
+};
+
+std::string Text(const Control& control) {
+  return control.Text().toStdString();
+}
+
+TEST_F(Sheet, WritesWhatIsTypedIntoTheAreaUnderTheEditor) {
+  Type("Garden roses");
+  EXPECT_EQ(Text(page(1).txt[0]), "Garden roses");
+  EXPECT_EQ(page(1).txt[0].SelStart(), 12);
+  EXPECT_EQ(view.PixelRect(page(1).txt[0]), Editor().geometry());
+  EXPECT_EQ(page(1).txt[0].BackColor(), colors::Cyan);
+  Key(Qt::Key_Home);
+  EXPECT_EQ(page(1).txt[0].SelStart(), 0);
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(page(1).txt[0].SelText().toStdString(), "G");
+  Type("B");
+  EXPECT_EQ(Text(page(1).txt[0]), "Barden roses");
+  Key(Qt::Key_Backspace);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(Text(page(1).txt[0]), "rden roses");
+}
+
+TEST_F(Sheet, MovesNoPixelOfATextWhenItsAreaGetsLive) {
+  Control& area = page(1).txt[4];
+  area.SetText(QStringLiteral("Arch of smilax & white wisteria, WAVY AV To."));
+  area.SetSelStart(static_cast<int>(area.Text().size()));
+  view.resize(2000, 1600);  // wide enough for the whole sheet, which would else be moved until the area shows
+  for (const double zoom : {1.0, 1.25, 1.5, 2.0}) {
+    SetFocus(page(1).txt[0]);
+    view.SetZoom(zoom);
+    area.SetBackColor(colors::Cyan);
+    const double caret = double{area.Left() + TextWidth(area.GetFont(), area.Text())} / view.TwipsPerPixel();
+    QRect seen = view.PixelRect(area);
+    seen.setWidth(static_cast<int>(caret) - seen.left() + view.ToPixels({0, 0}).x() - 1);
+    const QImage painted = view.grab(seen).toImage();
+    SetFocus(area);
+    ASSERT_EQ(view.Focused(), &area);
+    EXPECT_EQ(view.grab(seen).toImage(), painted) << "at zoom " << zoom;
+  }
+}
+
+TEST_F(Sheet, LetsTheWalkingKeysReachTheHandlers) {
+  struct Case {
+    Qt::Key key;
+    const char* goal;
+  };
+  const Case walk[] = {{Qt::Key_Tab, "frmP2.txt(35)"},    {Qt::Key_Return, "frmP2.txt(1)"},
+                       {Qt::Key_Down, "frmP2.txt(2)"},    {Qt::Key_Enter, "frmP2.txt(37)"},
+                       {Qt::Key_Backtab, "frmP2.txt(2)"}, {Qt::Key_Up, "frmP2.txt(1)"}};
+  for (const Case& step : walk) {
+    Key(step.key, step.key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+    EXPECT_EQ(Focus(), step.goal);
+    ASSERT_TRUE(view.Focused());
+    EXPECT_EQ(Editor().geometry(), view.PixelRect(*view.Focused()));
+  }
+  EXPECT_EQ(Text(page(1).txt[1]), "");
+}
+
+TEST_F(Sheet, GoesToTheNextPageBehindTheLastArea) {
+  SetFocus(page(1).txt[69]);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Focus(), "frmP3.txt(0)");
+  EXPECT_EQ(view.CurrentWindow(), 2);
+  Type("a");
+  EXPECT_EQ(Text(page(2).txt[0]), "a");
+}
+
+TEST_F(Sheet, TogglesColumnsOnceWithF8AndWithADoubleClick) {
+  Key(Qt::Key_F8);
+  EXPECT_TRUE(page(1).HasColumns(0));
+  EXPECT_EQ(Focus(), "frmP2.txtQty(0)");
+  Type("3");
+  EXPECT_EQ(Text(page(1).txtQty[0]), "3");
+  Key(Qt::Key_F8);
+  EXPECT_FALSE(page(1).HasColumns(0));
+  QTest::mouseClick(&view, Qt::LeftButton, {}, Inside(page(1).txt[5]));
+  QTest::mouseDClick(&view, Qt::LeftButton, {}, Inside(page(1).txt[5]));
+  EXPECT_TRUE(page(1).HasColumns(5));
+  // As a test program does it: the second click on the widget that has the focus.
+  SetFocus(page(1).txt[5]);
+  QTest::mouseDClick(&Editor(), Qt::LeftButton);
+  EXPECT_FALSE(page(1).HasColumns(5));
+}
+
+TEST_F(Sheet, PushesWordsAlongAndTakesTheCaretWithThem) {
+  for (int i = 0; i < 40; ++i) Type("rose ");
+  const float room = page(1).txt[0].Width();
+  EXPECT_LT(TextWidth(page(1).txt[0].GetFont(), page(1).txt[0].Text()), room);
+  EXPECT_EQ(Focus(), "frmP2.txt(1)");
+  EXPECT_EQ((page(1).txt[0].Text() + QLatin1Char(' ') + page(1).txt[1].Text()).count(QStringLiteral("rose")),
+            40);
+  EXPECT_EQ(Editor().text(), page(1).txt[1].Text());
+  EXPECT_EQ(Editor().cursorPosition(), page(1).txt[1].Text().size());
+}
+
+TEST_F(Sheet, TurnsWhatTheFilesCannotHoldIntoItsKinAtOnce) {
+  Commit("Łódź “€5” 🌹");
+  EXPECT_EQ(Text(page(1).txt[0]), FoldToCodePage(QString::fromUtf8("Łódź “€5” 🌹")).toStdString());
+  EXPECT_EQ(Editor().text(), page(1).txt[0].Text());
+  EXPECT_FALSE(Editor().text().contains(QChar(0x141)));
+  fresh.desk.clipboard = QString::fromUtf8("ő\r\nnext line\r\n");
+  SetFocus(page(1).txt[1]);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Text(page(1).txt[1]), "o next line");
+}
+
+TEST_F(Sheet, LetsNoWayIntoAnAmountTakeLetters) {
+  SetFocus(page(1).txt[35]);
+  Type("1a2");
+  Commit("x.5");
+  EXPECT_EQ(Text(page(1).txt[35]), "12.5");
+  fresh.desk.clipboard = QStringLiteral("letters");
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Text(page(1).txt[35]), "12.5");
+  Key(Qt::Key_A, Qt::ControlModifier);
+  fresh.desk.clipboard = QStringLiteral("99");
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Text(page(1).txt[35]), "99");
+}
+
+TEST_F(Sheet, CutsCopiesAndTakesBackWithinAnArea) {
+  Type("lilies");
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(fresh.desk.clipboard, QStringLiteral("lilies"));
+  Key(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(Text(page(1).txt[0]), "");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Text(page(1).txt[0]), "lilies");
+}
+
+TEST_F(Sheet, LeavesTheMenusKeysAlone) {
+  Type("lilies");
+  for (const auto& [key, modifiers] : {std::pair{Qt::Key_U, Qt::ControlModifier},
+                                       {Qt::Key_D, Qt::ControlModifier},
+                                       {Qt::Key_Delete, Qt::ShiftModifier},
+                                       {Qt::Key_S, Qt::ControlModifier}}) {
+    QKeyEvent asked(QEvent::ShortcutOverride, key, modifiers);
+    asked.ignore();
+    QApplication::sendEvent(&Editor(), &asked);
+    EXPECT_FALSE(asked.isAccepted()) << key;
+  }
+  Key(Qt::Key_U, Qt::ControlModifier);
+  EXPECT_EQ(Text(page(1).txt[0]), "lilies");
+}
+
+TEST_F(Sheet, RefusesHandsWhileRowsAreSelectedAndOnTheCopy) {
+  Type("kept");
+  const auto assail = [&](const Control& area) {
+    const std::string before = Text(area);
+    fresh.desk.clipboard = QStringLiteral("12");
+    Type("7");
+    Commit("8");
+    Key(Qt::Key_Backspace);
+    Key(Qt::Key_A, Qt::ControlModifier);
+    Key(Qt::Key_Delete);
+    Key(Qt::Key_X, Qt::ControlModifier);
+    Key(Qt::Key_V, Qt::ControlModifier);
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Text(area), before);
+  };
+  page(1).txt[0].SetBackColor(colors::Blue);
+  editing.AreasSelected = true;
+  assail(page(1).txt[0]);
+  editing.AreasSelected = false;
+  page(6).txt[4].SetText(QStringLiteral("250.00"));
+  view.ShowPage(6);
+  Click(page(6).txt[4]);
+  assail(page(6).txt[4]);
+}
+
+TEST_F(Sheet, PutsTheCaretWhereThePointerIs) {
+  page(1).txt[3].SetText(QStringLiteral("white wisteria"));
+  const Control& area = page(1).txt[3];
+  const float x = area.Left() + TextWidth(area.GetFont(), QStringLiteral("white "));
+  const QPoint place = view.ToPixels({double{x}, double{area.Top() + 100}});
+  QTest::mouseClick(&view, Qt::LeftButton, {}, place);
+  EXPECT_EQ(Focus(), "frmP2.txt(3)");
+  EXPECT_EQ(area.SelStart(), 6);
+  QTest::mousePress(&view, Qt::LeftButton, {}, place);
+  const QPoint there = view.ToPixels({double{x} + 5000, double{area.Top() + 100}});
+  QMouseEvent drag(QEvent::MouseMove, there, view.mapToGlobal(there), Qt::NoButton, Qt::LeftButton, {});
+  QApplication::sendEvent(&view, &drag);
+  QTest::mouseRelease(&view, Qt::LeftButton, {}, there);
+  EXPECT_EQ(area.SelText().toStdString(), "wisteria");
+}
+
+TEST_F(Sheet, OpensTheTextMenuWithTheRightButton) {
+  static std::string asked;
+  asked.clear();
+  upcalls().PopUpTextMenu = [](Control& area) { asked = area.FullName().toStdString(); };
+  Click(page(1).txt[36], Qt::RightButton);
+  EXPECT_EQ(asked, "frmP2.txt(36)");
+}
+
+TEST_F(Sheet, PassesTheEmptyPageAndLabelsOn) {
+  std::vector<std::pair<PageMouseEvent::What, Control*>> told;
+  view.pageMouse = [&](const PageMouseEvent& event) { told.emplace_back(event.what, event.control); };
+  QTest::mouseClick(&view, Qt::LeftButton, {}, view.ToPixels({300, 1200}));
+  Click(page(1).lbl[0]);
+  ASSERT_EQ(told.size(), 4U);
+  EXPECT_EQ(told[0], std::pair(PageMouseEvent::What::Press, static_cast<Control*>(nullptr)));
+  EXPECT_EQ(told[3], std::pair(PageMouseEvent::What::Release, &page(1).lbl[0]));
+}
+
+TEST_F(Sheet, TakesADroppedTerm) {
+  const auto drop = [&](const Control& target) {
+    QMimeData data;
+    data.setText(QStringLiteral("Centerpieces[35.00]"));
+    QDragEnterEvent enter(Inside(target), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&view, &enter);
+    QDropEvent event(Inside(target), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&view, &event);
+    return event.isAccepted();
+  };
+  EXPECT_TRUE(drop(page(1).txt[6]));
+  EXPECT_EQ(Text(page(1).txt[6]), "Centerpieces");
+  EXPECT_EQ(Text(page(1).txt[41]), "35.00");
+  EXPECT_FALSE(drop(page(1).txt[42]));
+  EXPECT_EQ(Text(page(1).txt[42]), "");
+}
+
+TEST_F(Sheet, AsksForAnotherScrollValueWhenTheWheelTurns) {
+  frame().VScroll1.Max = 9000;
+  int asked = -1;
+  view.scrollTo = [&](int value) { asked = value; };
+  QWheelEvent turn(QPointF(100, 100), QPointF(100, 100), {}, QPoint(0, -120), {}, {}, Qt::NoScrollPhase,
+                   false);
+  QApplication::sendEvent(&view, &turn);
+  EXPECT_GT(asked, 0);
+  EXPECT_LE(asked, 9000);
+}
+
+TEST_F(Sheet, KeepsPlacesUnderScrollAndZoom) {
+  view.SetScroll(3000);
+  view.SetZoom(1.5);
+  const QPointF place(4321, 5432);
+  const QPointF back = view.ToTwips(view.ToPixels(place));
+  EXPECT_NEAR(back.x(), place.x(), view.TwipsPerPixel());
+  EXPECT_NEAR(back.y(), place.y(), view.TwipsPerPixel());
+  EXPECT_EQ(view.ControlAt({800, 1900}), &page(1).txt[0]);
+  EXPECT_EQ(view.ControlAt({800, 1700}), nullptr);
+  EXPECT_EQ(Editor().geometry(), view.PixelRect(page(1).txt[0]));
+}
+
+/// Keeps what the view was asked to paint.
+struct PaintWatch : QObject {
+  QRegion region;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+};
+
+TEST_F(Sheet, PaintsOnlyWhatIsStale) {
+  QApplication::processEvents();
+  PaintWatch watch;
+  view.installEventFilter(&watch);
+  page(1).txt[20].SetText(QStringLiteral("new"));
+  page(1).lbl[38].SetCaption(QStringLiteral("A longer title than before"));
+  page(3).txt[2].SetText(QStringLiteral("another page"));
+  QApplication::processEvents();
+  EXPECT_TRUE(watch.region.contains(view.PixelRect(page(1).txt[20])));
+  EXPECT_TRUE(watch.region.contains(view.PixelRect(page(1).lbl[38])));
+  int area = 0;
+  for (const QRect& rect : watch.region) area += rect.width() * rect.height();
+  EXPECT_LT(area, view.width() * 60);
+}
+
+TEST_F(Sheet, StaysQuietInThePreview) {
+  Type("roses");
+  view.SetDrawMode(DrawMode::Printing);
+  EXPECT_FALSE(Editor().isVisible());
+  QTest::keyClicks(&view, QStringLiteral("x"));
+  Click(page(1).txt[7]);
+  EXPECT_EQ(Text(page(1).txt[0]), "roses");
+  EXPECT_EQ(Focus(), "frmP2.txt(0)");
+  EXPECT_TRUE(page(1).txt[0].Visible());
+  view.SetDrawMode(DrawMode::Editing);
+  EXPECT_TRUE(Editor().isVisible());
+}
+
+TEST_F(Sheet, NamesItsAreasForAScreenReader) {
+  QAccessibleInterface* sheet = QAccessible::queryAccessibleInterface(&view);
+  ASSERT_TRUE(sheet);
+  EXPECT_EQ(sheet->text(QAccessible::Name), QStringLiteral("Page 2"));
+  ASSERT_EQ(sheet->childCount(), 70);
+  page(1).imgNoTax[39].SetShown(true);
+  page(1).txt[39].SetText(QStringLiteral("12.00"));
+  QAccessibleInterface* amount = sheet->child(39);
+  EXPECT_EQ(amount->text(QAccessible::Name), QStringLiteral("Page 2, row 5, amount"));
+  EXPECT_EQ(amount->text(QAccessible::Value), QStringLiteral("12.00"));
+  EXPECT_EQ(amount->text(QAccessible::Description), QStringLiteral("exempt from sales tax"));
+  EXPECT_EQ(sheet->indexOfChild(amount), 39);
+  amount->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  EXPECT_EQ(Focus(), "frmP2.txt(39)");
+  EXPECT_EQ(sheet->focusChild()->text(QAccessible::Name), QStringLiteral("Page 2, row 5, amount"));
+  EXPECT_EQ(sheet->child(39), sheet->focusChild());
+}
+
+}  // namespace
