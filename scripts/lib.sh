@@ -64,3 +64,11 @@ compile() {
     log=$(ninja -C "$folder" --quiet "$@" 2>&1) || { printf '%s\n' "$log" >&2; fail "The build failed."; }
   fi
 }
+
+# From here on windows are drawn in memory only.
+without_display() {
+  export QT_QPA_PLATFORM=offscreen
+  [ -z "${XDG_RUNTIME_DIR:-}" ] || return 0
+  export XDG_RUNTIME_DIR=$build/runtime
+  mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+}
