@@ -166,6 +166,7 @@ const Handlers& ActionStatements() {
       {"answer", AnswerNext},
       {"clipboard", [](World& world, const Statement& statement) { world.desk.clipboard = statement.At(1); }},
       {"shot", [](World& world, const Statement& statement) { world.Shot(statement.Rest(1)); }},
+      {"keep", [](World& world, const Statement& statement) { world.Keep(statement.Rest(1)); }},
   };
   return handlers;
 }

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMenu>
 #include <QTest>
 
@@ -136,11 +137,24 @@ void World::PullPopUp(const QString& name) const {
 void World::Shot(const QString& name) const {
   QWidget* front = stage.Front();
   if (!front) throw Failure(QStringLiteral("a window to picture"), QStringLiteral("none is open"));
+  const QString file = name.endsWith(QLatin1String(".png")) ? name : name + QStringLiteral(".png");
+  if (!front->grab().save(QDir(OutputFolder()).filePath(file)))
+    throw Failure(QStringLiteral("a picture ") + file, QStringLiteral("it cannot be written"));
+}
+
+void World::Keep(const QString& name) const {
+  const QString from = files.PathOf(name), to = QDir(OutputFolder()).filePath(QFileInfo(name).fileName());
+  if (!QFile::exists(from))
+    throw Failure(QStringLiteral("a file \"%1\"").arg(name), QStringLiteral("there is none"));
+  QFile::remove(to);
+  if (!QFile::copy(from, to))
+    throw Failure(QStringLiteral("a copy of ") + name, QStringLiteral("it cannot be written"));
+}
+
+QString World::OutputFolder() const {
   const QString folder = QDir(places_.shots).filePath(scriptName_);
   QDir().mkpath(folder);
-  const QString file = name.endsWith(QLatin1String(".png")) ? name : name + QStringLiteral(".png");
-  if (!front->grab().save(QDir(folder).filePath(file)))
-    throw Failure(QStringLiteral("a picture ") + file, QStringLiteral("it cannot be written"));
+  return folder;
 }
 
 }  // namespace quillane::scenario

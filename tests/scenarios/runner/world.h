@@ -49,8 +49,12 @@ class World {
   void PullMenu(const QString& name) const;
   void PullPopUp(const QString& name) const;
   void Shot(const QString& name) const;
+  /// keep "name": a file of the program's folder stays with the test's output.
+  void Keep(const QString& name) const;
 
  private:
+  QString OutputFolder() const;
+
   QString scriptName_;
   Places places_;
 };
