@@ -29,7 +29,7 @@ void CopyWhereMissing(const QString& from, const QString& to) {
 }
 
 void NeedFolder(const QString& path) {
-  if (!QFileInfo(path).isDir()) MakeFolder(path);
+  if (!QDir().mkpath(path)) Raise(errors::PathFileAccess, path);
 }
 
 void CopyPart(const QString& from, const QString& to) {

@@ -82,10 +82,10 @@ void FrameWindow::ConnectModel() {
 
 void FrameWindow::ShowAsBefore() {
   const QByteArray geometry = WindowSettings().value(GeometryKey).toByteArray();
-  if (!geometry.isEmpty() && restoreGeometry(geometry))
-    show();
-  else
-    showMaximized();
+  if (!geometry.isEmpty() && restoreGeometry(geometry)) return show();
+  // The size for desktops that do not maximise, and for the day the window is made smaller.
+  resize(screen()->availableSize() * 0.95);
+  showMaximized();
 }
 
 void FrameWindow::AfterChange(Control& control, Aspect) {
