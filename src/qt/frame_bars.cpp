@@ -16,7 +16,7 @@ namespace quillane {
 
 namespace {
 
-constexpr int ToolSize = 24, PageSize = 28;  // pixels of the drawings
+constexpr int ToolSize = 24, PageSize = 28, TextSize = 16;  // pixels of the drawings
 
 struct Drawing {
   const char *control, *source;
@@ -91,10 +91,19 @@ void FrameWindow::AddImage(QHBoxLayout& row, const QString& name, int size) {
   Keep(name, button);
 }
 
+void FrameWindow::AddDecoration(QHBoxLayout& row, const QString& name) {
+  auto* image = new QLabel;
+  image->setPixmap(IconOf(DrawingOf(name)).pixmap({TextSize, TextSize}, devicePixelRatio()));
+  row.addWidget(image);
+  image->setObjectName(name);
+}
+
 void FrameWindow::AddButton(QHBoxLayout& row, const QString& name) {
   auto* button = new QPushButton;
   button->setFocusPolicy(Qt::ClickFocus);
-  button->setMinimumHeight(30);
+  // Room beside the words, so that a caption that grows ("Tax Rate: 8.25%") does not push its neighbours
+  // about.
+  button->setMinimumSize(button->fontMetrics().horizontalAdvance(QStringLiteral("Resume Editing")) + 28, 30);
   connect(button, &QPushButton::clicked, this, [name] { FrameClicked(name); });
   row.addWidget(button);
   Keep(name, button);
@@ -119,7 +128,9 @@ QWidget* FrameWindow::MakeToolBar() {
   for (const char* name : {"cmdTaxRate", "cmdReCalc", "cmdPreview", "cmdClearMem"})
     AddButton(*row, QString::fromLatin1(name));
   row->addStretch();
-  row->addWidget(AddLabel(QStringLiteral("lblPage"), Qt::ElideRight, Qt::AlignRight));
+  QWidget* caption = AddLabel(QStringLiteral("lblPage"), Qt::ElideRight, Qt::AlignRight);
+  caption->setFont(QFont(QStringLiteral("Arial"), caption->font().pointSize()));
+  row->addWidget(caption);
   row->addSpacing(4);
   for (int k = 0; k < PageCount; ++k) AddImage(*row, QStringLiteral("imgPage(%1)").arg(k), PageSize);
   return bar;
@@ -128,9 +139,11 @@ QWidget* FrameWindow::MakeToolBar() {
 QWidget* FrameWindow::MakeInfoBar() {
   auto* bar = new QWidget;
   bar->setObjectName(QStringLiteral("picInfo"));
-  QHBoxLayout* row = MakeRow(*bar, 4, 16);
-  row->addWidget(AddLabel(QStringLiteral("lblDir"), Qt::ElideMiddle, Qt::AlignLeft), 1);
-  row->addWidget(AddLabel(QStringLiteral("lblEvent"), Qt::ElideRight, Qt::AlignRight), 1);
+  QHBoxLayout* row = MakeRow(*bar, 4, 8);
+  row->addWidget(AddLabel(QStringLiteral("lblDir"), Qt::ElideMiddle, Qt::AlignLeft));
+  row->addStretch();
+  AddDecoration(*row, QStringLiteral("imgTime"));
+  row->addWidget(AddLabel(QStringLiteral("lblEvent"), Qt::ElideRight, Qt::AlignRight));
   return bar;
 }
 

@@ -42,6 +42,7 @@ class FrameWindow : public QMainWindow, private FormObserver {
   QWidget* MakeSheetRow();
   QWidget* MakeStatusBar();
   void AddImage(QHBoxLayout& row, const QString& name, int size);
+  void AddDecoration(QHBoxLayout& row, const QString& name);
   void AddButton(QHBoxLayout& row, const QString& name);
   QWidget* AddLabel(const QString& name, Qt::TextElideMode elide, Qt::Alignment alignment);
   void Keep(const QString& name, QWidget* widget);
