@@ -5,22 +5,20 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QFontDatabase>
-#include <QImageReader>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
 #include <QUrl>
 #include <algorithm>
 
-#include "platform/files.h"
-#include "platform/runtime_error.h"
+#include "qt/icons.h"
+#include "qt/pictures.h"
+#include "qt/printers.h"
 #include "qt/windows.h"
 
 namespace quillane {
 
 namespace {
-constexpr float TwipsPerPixel = 15;
-
 QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   switch (buttons) {
     case Buttons::YesNo:
@@ -45,8 +43,12 @@ QtDesk::QtDesk() {
 QtDesk::~QtDesk() = default;
 
 Answer QtDesk::MessageBox(const QString& text, const QString& title, Buttons buttons) {
-  const auto icon = buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
-  QMessageBox box(icon, title, text, ButtonsOf(buttons), BoxParent(frameWindow));
+  QMessageBox box(QMessageBox::NoIcon, title, text, ButtonsOf(buttons), BoxParent(frameWindow));
+  constexpr int markSize = 48;
+  box.setIconPixmap(
+      IconOf(QStringLiteral(":/icons/quillane.svg")).pixmap({markSize, markSize}, box.devicePixelRatio()));
+  // Words say enough; the toolkit's own pictures on buttons differ from desktop to desktop.
+  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
   // The program's texts are plain; a "<" in a file's name must not become markup.
   box.setTextFormat(Qt::PlainText);
   switch (box.exec()) {
@@ -148,13 +150,14 @@ bool QtDesk::OpenExternally(const QString& target) {
 }
 
 QStringList QtDesk::PrinterNames() const {
-  return {};
+  return printers::PrinterNames();
 }
 QString QtDesk::DefaultPrinterName() const {
-  return {};
+  return printers::DefaultPrinterName();
 }
-std::unique_ptr<Surface> QtDesk::BeginDocument(const QString&, const QString&, const QString&) {
-  Raise(errors::Printer);
+std::unique_ptr<Surface> QtDesk::BeginDocument(const QString& printer, const QString& title,
+                                               const QString& pdfPath) {
+  return printers::BeginDocument(printer, title, pdfPath);
 }
 
 QStringList QtDesk::ScreenFonts() const {
@@ -162,11 +165,7 @@ QStringList QtDesk::ScreenFonts() const {
 }
 
 Picture QtDesk::LoadPicture(const QString& path) {
-  if (!QFileInfo::exists(path)) Raise(errors::FileNotFound, path);
-  const QSize size = QImageReader(path).size();
-  if (!size.isValid()) Raise(errors::InvalidPicture, path);
-  return {path, static_cast<float>(size.width()) * TwipsPerPixel,
-          static_cast<float>(size.height()) * TwipsPerPixel};
+  return ReadPicture(path);
 }
 
 int QtDesk::ScreenWidth() const {
