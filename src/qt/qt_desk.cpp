@@ -1,5 +1,6 @@
 #include "qt/qt_desk.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
