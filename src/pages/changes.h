@@ -6,6 +6,8 @@ namespace quillane {
 bool TextHasChanged();
 bool PropertiesHaveChanged();
 /// Text or properties differ from what was last saved or read.
-inline bool ProposalHasChanged() { return TextHasChanged() || PropertiesHaveChanged(); }
+inline bool ProposalHasChanged() {
+  return TextHasChanged() || PropertiesHaveChanged();
+}
 
 }  // namespace quillane

@@ -251,6 +251,8 @@ void PlaceTotalsPage(Page& page) {
 // --- Rules
 // ---------------------------------------------------------------------------------------------------------
 
+constexpr Color RuleColor = 0x707070;  // grey: a rule orders the text and does not compete with it
+
 struct Rule {
   float left, top, width, height;
 };
@@ -321,6 +323,7 @@ void PlaceRules(Page& page) {
     line.SetTop(rule.top);
     line.SetWidth(rule.width);
     line.SetHeight(rule.height);
+    line.SetForeColor(RuleColor);
   }
 }
 

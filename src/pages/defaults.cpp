@@ -48,6 +48,11 @@ void LookForAlternativePages() {
   if (FileExists(prefs.ProposalFolder, QStringLiteral("SNF Settings.txt"))) prefs.SnfSettings = true;
 }
 
+void GiveMarksTheirDrawing(Page& page) {
+  for (Control& mark : page.imgNoTax)
+    mark.SetPicture({QStringLiteral(":/icons/no-tax.svg"), mark.Width(), mark.Height()});
+}
+
 LabelDefault DefaultOf(const Control& label) {
   const Font& font = label.GetFont();
   return {label.Left(), label.Top(),       label.Caption(), font.name,     font.size,
@@ -77,6 +82,7 @@ void SetUpPages() {
   for (int window = 0; window < PageCount; ++window) {
     Page& current = page(window);
     SetMyFonts(current);
+    GiveMarksTheirDrawing(current);
     PlaceRules(current);
     ShowPageControls(current);
   }

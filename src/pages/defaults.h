@@ -6,7 +6,7 @@
 
 namespace quillane {
 
-/// Once at start: Tags, tool tips and marks of every page, in page order.
+/// Once at start: fonts, tool tips, marks and rules of every page, in page order.  Tags come with the pages.
 void SetUpPages();
 /// Puts all captions, fonts and places of the seven pages back to their defaults and stores the default
 /// table. The caller sets RebuildingPages.

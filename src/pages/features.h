@@ -8,7 +8,8 @@ namespace quillane {
 void SaveTextBoxFeatures();
 /// QtyBox of both layers from the Tag of each txtQty, on pages whose columns are loaded.
 void SyncQtyFlags();
-/// The stored form of an area as the page shows it: trimmed text, or the three-part form of a row with columns.
+/// The stored form of an area as the page shows it: trimmed text, or the three-part form of a row with
+/// columns.
 QString StoredForm(const Page& page, int area);
 
 }  // namespace quillane

@@ -9,6 +9,7 @@
 #include "app/commands.h"
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "model/upcalls.h"
 #include "platform/files.h"
 #include "unit/fake_desk.h"
 
@@ -123,6 +124,7 @@ TEST_F(Startup, ScrollBarFitsTheFrameAndMovesTheSheet) {
 }
 
 TEST_F(Startup, ExitAsksAndStaysUnlessTheAnswerIsNo) {
+  proposal.SavedPropertyLines = upcalls().PropertyLinesNow();  // as a blank proposal begins
   EXPECT_TRUE(MayExit());
   EXPECT_TRUE(desk.said.isEmpty()) << "nothing changed, nothing asked";
   proposal.PageText[1][0] = "Flowers";
