@@ -56,6 +56,16 @@ void LiveEditor::Wear(const Control& control) {
   update();
 }
 
+void LiveEditor::Begin(const QString& text) {
+  composing_ = false;
+  offset_ = 0;
+  setText(text);
+}
+
+void LiveEditor::FinishComposing() {
+  if (composing_) QGuiApplication::inputMethod()->commit();
+}
+
 bool LiveEditor::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     auto* key = static_cast<QKeyEvent*>(event);
@@ -226,12 +236,18 @@ void LiveEditor::PaintSelection(QPainter& painter) const {
   painter.restore();
 }
 
-void LiveEditor::PaintCaret(QPainter& painter) const {
+QRectF LiveEditor::CaretOnPage() const {
   const Control& area = *view_.Focused();
   const double x = double{area.Left() - offset_ + WidthTo(cursorPosition())};
   const double pixel = view_.TwipsPerPixel();
   const double height = std::min(double{MetricsOf(area.GetFont()).height}, double{area.Height()} - 2 * pixel);
-  painter.fillRect(QRectF(x, double{area.Top()} + pixel, pixel, height), ToQColor(area.ForeColor()));
+  return QRectF(x, double{area.Top()} + pixel, pixel, height);
+}
+
+QVariant LiveEditor::inputMethodQuery(Qt::InputMethodQuery query) const {
+  if (query != Qt::ImCursorRectangle || !view_.Focused() || composing_)
+    return QLineEdit::inputMethodQuery(query);
+  return view_.PageTransform().mapRect(CaretOnPage()).translated(-pos());
 }
 
 void LiveEditor::paintEvent(QPaintEvent* event) {
@@ -243,7 +259,8 @@ void LiveEditor::paintEvent(QPaintEvent* event) {
   painter.setTransform(view_.PageTransform() * QTransform::fromTranslate(-x(), -y()), true);
   PaintText(painter, Line::Plain);
   if (hasSelectedText()) PaintSelection(painter);
-  if (caretShows_ && hasFocus() && !hasSelectedText()) PaintCaret(painter);
+  if (caretShows_ && hasFocus() && !hasSelectedText())
+    painter.fillRect(CaretOnPage(), ToQColor(area->ForeColor()));
 }
 
 }  // namespace quillane

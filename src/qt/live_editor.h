@@ -27,8 +27,14 @@ class LiveEditor : public QLineEdit {
   void DragTo(float x);
   void SelectWordAt(float x);
 
+  /// Begins anew over another area: its text, and nothing of the last area's that could be undone into it.
+  void Begin(const QString& text);
+  /// What an input method is composing becomes text, before the focus or the caret goes elsewhere.
+  void FinishComposing();
   /// The caret shows at once, as after every key.
   void ShowCaret();
+  /// Where an input method puts its list of candidates: the caret, in the editor's pixels.
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
  protected:
   bool event(QEvent* event) override;
@@ -53,7 +59,7 @@ class LiveEditor : public QLineEdit {
   void KeepCaretInView();
   void PaintText(QPainter& painter, Line line) const;
   void PaintSelection(QPainter& painter) const;
-  void PaintCaret(QPainter& painter) const;
+  QRectF CaretOnPage() const;
 
   SheetView& view_;
   QTimer blink_;

@@ -268,6 +268,7 @@ void SheetView::TellPage(PageMouseEvent::What what, const QMouseEvent& event) {
 void SheetView::mousePressEvent(QMouseEvent* event) {
   event->accept();
   if (mode_ == DrawMode::Printing) return;
+  editor_->FinishComposing();
   pressed_ = ControlAt(ToTwips(event->position()));
   if (!pressed_ || pressed_->GetKind() == Kind::Label || pressed_->GetKind() == Kind::Picture)
     TellPage(PageMouseEvent::What::Press, *event);

@@ -135,10 +135,11 @@ bool SheetView::Shows(const Control& control) const {
 }
 
 void SheetView::FocusControl(Control* control) {
-  if (focused_) MarkStale(*focused_);
-  focused_ = nullptr;
+  const Control* before = std::exchange(focused_, nullptr);
+  if (before) MarkStale(*before);
   if (control && Shows(*control)) {
     focused_ = control;
+    if (before != control) editor_->Begin(control->Text());
     ShowEditor();
     return;
   }

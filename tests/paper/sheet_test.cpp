@@ -180,6 +180,28 @@ TEST_F(Sheet, CutsCopiesAndTakesBackWithinAnArea) {
   EXPECT_EQ(Text(page(1).txt[0]), "lilies");
 }
 
+TEST_F(Sheet, TakesNothingBackIntoAnotherArea) {
+  Type("x");
+  Key(Qt::Key_Backspace);
+  SetFocus(page(1).txt[1]);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Text(page(1).txt[1]), "");
+}
+
+TEST_F(Sheet, KeepsTheCaretOfALongTextInsideItsArea) {
+  Front(0);
+  SetFocus(page(0).txt[3]);
+  for (int i = 0; i < 60; ++i) Type("W");
+  const auto caret = [&] {
+    Editor().grab();
+    return Editor().inputMethodQuery(Qt::ImCursorRectangle).toRectF();
+  };
+  EXPECT_EQ(page(0).txt[3].BackColor(), colors::Red);
+  EXPECT_NEAR(caret().right(), Editor().width(), 3);
+  Key(Qt::Key_Home);
+  EXPECT_NEAR(caret().left(), 2, 1);
+}
+
 TEST_F(Sheet, LeavesTheMenusKeysAlone) {
   Type("lilies");
   for (const auto& [key, modifiers] : {std::pair{Qt::Key_U, Qt::ControlModifier},
