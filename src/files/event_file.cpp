@@ -33,12 +33,6 @@ void ShowClientName() {
   SetFocus(page(0).txt[2]);
 }
 
-void CheckSums() {
-  TakeFocusedAmount();
-  CalculateAllPages();
-  CheckTheTotals();
-}
-
 void TakeCurrentFolder() {
   if (proposal.CurrentFolder.isEmpty()) proposal.CurrentFolder = prefs.ProposalFolder;
 }
@@ -53,13 +47,14 @@ bool PropertiesAreDue(Properties when, const QString& baseName) {
   return !proposal.FileIsNamed && FileExists(PropertyFolder(), baseName + PropertyFile);
 }
 
-void WriteFiles(const QString& baseName, Properties when) {
+void WriteFiles(const QString& fileName, Properties when) {
+  const QString baseName = fileName.chopped(FieldFile.size());
   SaveTextBoxFeatures();
   FindHighestPage();
   UpdatePageNumbers();
   UpdateEventNameLabels();
   const bool propertiesToo = PropertiesAreDue(when, baseName);
-  ReplaceFile(proposal.CurrentFolder + baseName + FieldFile, EventFileBytes());
+  ReplaceFile(proposal.CurrentFolder + fileName, EventFileBytes());
   proposal.PropertyLines = PropertyLinesNow();
   if (propertiesToo) SavePropertyFile(baseName);
 }
@@ -91,7 +86,7 @@ bool MayReplaceDuplicate() {
 }
 
 bool SaveUnderItsName() {
-  CheckSums();
+  CheckTheTotals();
   TakeCurrentFolder();
   if (!proposal.SavingAs && IllegalFileName(proposal.EventFileName)) {
     ShowClientName();
@@ -103,7 +98,7 @@ bool SaveUnderItsName() {
     return false;
   }
   if (!MayReplaceDuplicate()) return false;
-  WriteFiles(proposal.EventFileName.chopped(FieldFile.size()), Properties::WhenChanged);
+  WriteFiles(proposal.EventFileName, Properties::WhenChanged);
   MarkSaved();
   return true;
 }
@@ -143,8 +138,8 @@ bool SaveUnderNewName(const QString& baseName) {
   const bool hadFootnotes = FootnoteFileExists();
   const bool hasDeposits = FileExists(proposal.CurrentFolder, baseName + DepositFile);
   const bool saved = Guarded("SaveEventFile", [&] {
-    CheckSums();
-    WriteFiles(baseName, Properties::Always);
+    CheckTheTotals();
+    WriteFiles(baseName + FieldFile, Properties::Always);
     TakeName(baseName);
     MarkSaved();
   });

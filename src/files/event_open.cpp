@@ -110,8 +110,9 @@ void TakeDeposit(const std::vector<QString>& fields) {
   proposal.DepositReceived = value.value_or(0.0F);
 }
 
+// Sums that no figure can hold are reported and cost the totals only; the texts are there.
 void ShowTotals() {
-  CalculateAllPages();
+  Guarded("CalculateMyTotals", CalculateAllPages);
   page(5).txt[DepositArea].SetText(FormatNumber(proposal.DepositReceived, patterns::Money));
   RecalculateTotals(0);
   for (size_t i = 0; i < page(5).txt.size(); ++i) {

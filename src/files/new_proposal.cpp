@@ -143,6 +143,12 @@ void BlankPages() {
   Step(ResetStatus);
 }
 
+void RebuildColumns() {
+  if (!editing.ColumnRebuild) return;
+  editing.ColumnRebuild = false;
+  for (int window = 0; window < ItemPages; ++window) LoadColumns(page(window));
+}
+
 void TakeTermsFile(const QString& name) {
   terms.FileName = name;
   if (prefs.ShowFUT) upcalls().ReadTerms();
@@ -185,6 +191,7 @@ bool StartNewFile() {
   });
   proposal.SavedPropertyLines = PropertyLinesNow();
   Step([] { upcalls().UpdatePageButtons(0); });
+  Step(RebuildColumns);
   upcalls().SetEditMenuState(QStringLiteral("NothingSelected"));
   return true;
 }

@@ -78,8 +78,8 @@ void ApplyColumns(Page& target, const PropertyLine& line) {
   const bool columns = line.Flag("QtyBox");
   if (!target.IsRow(line.index) || !RowFollowsLine(target.pageIndex, line.index, columns)) return;
   LoadColumns(target);
+  if (columns && !target.HasColumns(line.index)) ShowPrompts(target, line.index);
   ShowRowColumns(target, line.index, columns);
-  if (columns) ShowPrompts(target, line.index);
   TextAreaRecord& record = TextRecOf(target.pageIndex, line.index);
   record.QtyBox = columns;
   record.PropChanged = false;

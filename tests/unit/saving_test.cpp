@@ -1,0 +1,209 @@
+#include "proposal_fixture.h"
+
+using namespace quillane;
+
+namespace {
+
+class Saving : public test::ProposalTest {
+ protected:
+  void TypeProposal(const QString& client) {
+    Type("frmP1.txt(2)", client);
+    Type("frmP1.txt(20)", "Flowers");
+    Type("frmP1.txt(28)", "120");
+  }
+};
+
+TEST_F(Saving, NamesTheProposalAfterItsClient) {
+  TypeProposal("Ann Lee");
+  EXPECT_TRUE(SaveEventFile());
+  EXPECT_EQ(Said(), QStringList("File was saved as Ann Lee.wwf"));
+  EXPECT_TRUE(proposal.FileIsNamed);
+  EXPECT_TRUE(frame()["mnuFileDelete"].Enabled());
+  EXPECT_FALSE(ProposalHasChanged());
+  EXPECT_FALSE(Exists("Ann Lee.wpf"));
+  EXPECT_EQ(proposal.HighestPage, 2);
+  EXPECT_EQ(At("frmP6.lbl(63)").Caption(), "Page 2 of 2");
+  EXPECT_EQ(Get("Ann Lee.wwf").mid(2020, 6), "120.00");
+
+  // The same name again asks nothing; the file takes what was typed since.
+  desk_.said.clear();
+  Type("frmP1.txt(28)", "80.5");
+  EXPECT_TRUE(ProposalHasChanged());
+  EXPECT_TRUE(SaveEventFile());
+  EXPECT_EQ(Said(), QStringList("File was saved as Ann Lee.wwf"));
+  EXPECT_EQ(Get("Ann Lee.wwf").mid(2020, 6), "80.50 ");
+}
+
+TEST_F(Saving, RefusesWithoutANameOrWithOneThatNoFileMayHave) {
+  Type("frmP2.txt(0)", "Flowers");
+  EXPECT_FALSE(SaveEventFile());
+  EXPECT_EQ(desk_.LastSaid(), "Please enter the client's name in the appropriate area and save again.");
+  EXPECT_EQ(editing.Focus, &At("frmP1.txt(2)"));
+  for (const QChar c : QStringLiteral("/\\:*?<>|")) {
+    desk_.said.clear();
+    Type("frmP1.txt(2)", QStringLiteral("Ann") + c + "Lee");
+    EXPECT_FALSE(SaveEventFile());
+    EXPECT_EQ(Said(), QStringList("Action Cancelled. File Name cannot include any of\n"
+                                  "the following characters: / \\ : * ? < > |"));
+    EXPECT_FALSE(proposal.FileIsNamed);
+  }
+  EXPECT_TRUE(QDir(prefs.ProposalFolder).entryList(QDir::Files).isEmpty());
+}
+
+TEST_F(Saving, AsksBeforeItReplacesAnother) {
+  Put("Ann Lee.wwf", "an older proposal");
+  Put("Ann Lee.wpf", "frmP2.txt(0).FontBold=True\r\n");
+  TypeProposal("Ann Lee");
+  Reply({Answer::No});
+  EXPECT_FALSE(SaveEventFile());
+  EXPECT_EQ(desk_.said[0].title, "Duplicate File Name on Record");
+  EXPECT_TRUE(
+      desk_.said[0].text.startsWith("A file with this name (Ann Lee.wwf)\nalready exists. Do you want to "
+                                    "replace the\nexisting file, created on:\n"));
+  EXPECT_TRUE(desk_.said[0].text.endsWith("\n\nwith this one?"));
+  EXPECT_EQ(desk_.LastSaid(), "File not saved.");
+  EXPECT_EQ(Get("Ann Lee.wwf"), "an older proposal");
+  EXPECT_FALSE(proposal.SaveCancelled || proposal.FileIsNamed);
+
+  Reply({Answer::Yes});
+  EXPECT_TRUE(SaveEventFile());
+  EXPECT_EQ(Get("Ann Lee.wwf").size(), 22000);
+  // Nothing of the replaced proposal's look comes back with the new one.
+  EXPECT_FALSE(Get("Ann Lee.wpf").contains("FontBold=True"));
+
+  // A client's name that changed asks again, and the file keeps its name.
+  desk_.said.clear();
+  Type("frmP1.txt(2)", "Ann Lee-Park");
+  Reply({Answer::Yes});
+  EXPECT_TRUE(SaveEventFile());
+  EXPECT_EQ(desk_.said[0].title, "Duplicate File Name on Record");
+  EXPECT_EQ(desk_.LastSaid(), "File was saved as Ann Lee.wwf");
+}
+
+TEST_F(Saving, WritesPropertiesWhenTheyDiffer) {
+  TypeProposal("Ann Lee");
+  At("frmP1.txt(20)").SetFontBold(true);
+  EXPECT_TRUE(ProposalHasChanged());
+  ASSERT_TRUE(SaveEventFile());
+  const QByteArray font = "UDP.FontName=Arial .FontSize=10 .FontColor=0 .FontItalic=False\r\n";
+  EXPECT_EQ(Get("Ann Lee.wpf"), "frmP1.txt(20).FontBold=True\r\n" + font);
+  EXPECT_FALSE(ProposalHasChanged());
+
+  At("frmP1.txt(20)").SetFontBold(false);
+  editing.CurrentForm = &page(1);
+  editing.CurrentPage = 1;
+  editing.CurrentArea = 5;
+  ToggleColumns();
+  EXPECT_TRUE(ProposalHasChanged());
+  ASSERT_TRUE(SaveEventFile());
+  EXPECT_EQ(Get("Ann Lee.wpf"), "frmP2.txq(5).QtyBox=True\r\n" + font);
+  EXPECT_EQ(Get("Ann Lee.wwf").mid(2180 + 5 * 120, 12),
+            "\xA5Qty.\xA5\xA7"
+            "Amt. ");
+  EXPECT_FALSE(ProposalHasChanged());
+}
+
+TEST_F(Saving, TellsOfSumsThatDiffer) {
+  TypeProposal("Ann Lee");
+  proposal.AreaAmount[0][28] = 121;
+  EXPECT_TRUE(SaveEventFile());
+  ASSERT_EQ(desk_.said.size(), 2);
+  EXPECT_TRUE(desk_.said[0].text.startsWith("A descrepancy has occurred in calculating the totals."));
+  EXPECT_TRUE(TotalsAreStale());
+}
+
+TEST_F(Saving, UnderAnotherNameTakesTheFootnotesAlong) {
+  TypeProposal("Ann Lee");
+  ASSERT_TRUE(SaveEventFile());
+  proposal.FootnoteFileName = "Ann Lee.wxt";
+  Put("Ann Lee.wxt", "calls after five");
+  Put("Ann Lee.dep", "deposits");
+  desk_.said.clear();
+  Input("  Ann Lee, second try ");
+  EXPECT_TRUE(SaveEventFileAs());
+  EXPECT_EQ(desk_.said[0].title, "Saving File As...");
+  EXPECT_EQ(Said(),
+            QStringList({"Please input the File Name below.", "File was saved as Ann Lee, second try.wwf"}));
+  EXPECT_EQ(Get("Ann Lee, second try.wwf"), Get("Ann Lee.wwf"));
+  EXPECT_EQ(Get("Ann Lee, second try.wxt"), "calls after five");
+  EXPECT_TRUE(Exists("Ann Lee, second try.wpf"));
+  EXPECT_FALSE(Exists("Ann Lee, second try.dep"));
+  EXPECT_EQ(proposal.BaseName, "Ann Lee, second try");
+  EXPECT_EQ(proposal.DepositFileName, "Ann Lee, second try.dep");
+  EXPECT_EQ(frame().form.caption, "Quillane: File Name = Ann Lee, second try.wwf");
+  EXPECT_FALSE(ProposalHasChanged());
+}
+
+TEST_F(Saving, UnderAnotherNameMayBeRefused) {
+  TypeProposal("Ann Lee");
+  ASSERT_TRUE(SaveEventFile());
+  Put("Taken.wwf", "another");
+  struct Case {
+    const char *name, *told;
+    Answer answer;
+  };
+  const Case cases[] = {
+      {" ", "No name entered. File not saved.", Answer::Yes},
+      {"a?b", "Action Cancelled. File Name cannot include any of\nthe following characters: / \\ : * ? < > |",
+       Answer::Yes},
+      {"Taken", "Action Cancelled. File not saved.", Answer::No},
+      {"Taken", "Action Cancelled. File not saved.", Answer::Cancel}};
+  for (const Case& c : cases) {
+    Input(c.name);
+    Reply({c.answer});
+    EXPECT_FALSE(SaveEventFileAs());
+    EXPECT_EQ(desk_.LastSaid(), c.told);
+    EXPECT_EQ(proposal.EventFileName, "Ann Lee.wwf");
+  }
+  EXPECT_EQ(Get("Taken.wwf"), "another");
+
+  // It asks once, also when the client's name has changed.
+  Type("frmP1.txt(2)", "Ann Park");
+  desk_.said.clear();
+  Input("Taken");
+  Reply({Answer::Yes});
+  EXPECT_TRUE(SaveEventFileAs());
+  EXPECT_EQ(desk_.said[1].title, "Preparing to Overwrite Existing Event File");
+  EXPECT_EQ(desk_.said[1].text, "A file with the name Taken already exists. Overwrite?");
+  EXPECT_EQ(desk_.said.size(), 3);
+  EXPECT_EQ(Get("Taken.wwf").size(), 22000);
+}
+
+TEST_F(Saving, UnderANameThatHasDepositsReportsTheirCopy) {
+  TypeProposal("Ann Lee");
+  Put("Old.dep", "deposits of somebody else");
+  Input("Old");
+  EXPECT_TRUE(SaveEventFileAs());
+  ASSERT_EQ(desk_.said.size(), 3);
+  EXPECT_EQ(desk_.said[1].text, "File was saved as Old.wwf");
+  EXPECT_EQ(desk_.said[2].title, "Program Error");
+  EXPECT_TRUE(desk_.said[2].text.contains("An error occurred in SaveEventFileAs."));
+  EXPECT_EQ(Get("Old.dep"), "deposits of somebody else");
+}
+
+TEST_F(Saving, BacksUpWhatStandsWithoutAWord) {
+  TypeProposal("Ann Lee");
+  SetFocus(At("frmP1.txt(2)"));
+  BackupThisFile();  // half a name must not become a file
+  EXPECT_FALSE(Exists("Backup/Ann Lee.wwf"));
+
+  SetFocus(At("frmP2.txt(0)"));
+  Type("frmP2.txt(0)", "Half a li");
+  const ProposalState before = proposal;
+  BackupThisFile();
+  EXPECT_EQ(Get("Backup/Ann Lee.wwf").mid(2180, 10), "Half a li ");
+  EXPECT_FALSE(Exists("Ann Lee.wwf"));
+  EXPECT_FALSE(Exists("Backup/Ann Lee.wpf"));
+  EXPECT_EQ(Said(), QStringList());
+  EXPECT_EQ(proposal.TextRec, before.TextRec);
+  EXPECT_EQ(proposal.PageText, before.PageText);
+  EXPECT_FALSE(proposal.FileIsNamed || proposal.BackupInProgress);
+  EXPECT_TRUE(ProposalHasChanged());
+
+  ASSERT_TRUE(Open("Ann Lee.wwf", "Backup/"));
+  At("frmP2.txt(0)").SetText("Half a line");
+  BackupThisFile();  // the copy that is open is not written over
+  EXPECT_EQ(Get("Backup/Ann Lee.wwf").mid(2180, 10), "Half a li ");
+}
+
+}  // namespace
