@@ -244,6 +244,11 @@ void SetFaultHook(FaultHook hook) {
 }
 
 QString ResolvePath(const QString& stored) {
+  // The system would take the name to end there, and touch another file.
+  if (stored.contains(QChar::Null))
+    throw RuntimeError(
+        errors::PathFileAccess,
+        QStringLiteral("Path/File access error: the name holds a character that no file's name can have"));
   if (stored.startsWith(u'/') && Exists(stored)) return stored;
   QString path = stored;
   path.replace(u'\\', u'/');

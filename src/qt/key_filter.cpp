@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 #include <QValidator>
+#include <algorithm>
+#include <utility>
 
 #include "ui/desk.h"
 
@@ -34,8 +36,10 @@ class KeyFilter : public QObject {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
-    const QString text = static_cast<QKeyEvent*>(event)->text();
-    const bool writes = !text.isEmpty() && text[0].isPrint();
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const QString text = key->text();
+    const bool shortcut = key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool writes = !shortcut && !text.isEmpty() && text[0].isPrint();
     if (!writes || IsAllowed(text, allowed_)) return false;
     if (refused_ == RefusedKey::Beeps) desk().Beep();
     return true;

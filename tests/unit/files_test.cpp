@@ -218,6 +218,13 @@ TEST_F(Files, RemovingRenamingAndCopyingSayWhatIsInTheWay) {
   EXPECT_EQ(ErrorOf([&] { Put("none/b.wwf", "x"); }), errors::PathNotFound);
   EXPECT_EQ(ErrorOf([&] { RemoveFile(folder); }), errors::PathFileAccess);
 
+  const QString cut = folder + "b.wwf" + QChar::Null + ".txt";
+  Put("b.wwf", "kept");
+  EXPECT_EQ(ErrorOf([&] { RemoveFile(cut); }), errors::PathFileAccess);
+  EXPECT_EQ(ErrorOf([&] { ReplaceFile(cut, "x"); }), errors::PathFileAccess);
+  EXPECT_EQ(ErrorOf([&] { Put(QString(300, u'x'), "x"); }), errors::PathFileAccess);
+  EXPECT_EQ(Get("b.wwf"), "kept");
+
   MakeFolder(folder + "Backup");
   EXPECT_EQ(ErrorOf([&] { MakeFolder(folder + "BACKUP"); }), errors::PathFileAccess);
   EXPECT_EQ(ErrorOf([&] { MakeFolder(folder + "none/x"); }), errors::PathNotFound);
