@@ -215,6 +215,7 @@ void ConnectLayers() {
   calls.SaveEventFile = [] { SaveEventFile(); };
   calls.SaveTaxRate = SaveTaxRate;
   calls.PropertyLinesNow = PropertyLinesNow;
+  calls.CommandExists = CommandExists;
   calls.SetEditMenuState = [](const QString&) { SetEditMenuState(); };
   frame().VScroll1.Value.changed = [](int value) { ScrollChanged(value); };
   InstallPageHandlers();

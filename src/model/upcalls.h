@@ -19,7 +19,8 @@ struct Upcalls {
   bool (*AcceptGuess)(Control& area, int key, bool shift) = [](Control&, int, bool) { return false; };  ///< tools
   void (*MoveContents)(bool down) = [](bool) {};                ///< pages: Shift + arrow over a selection
   void (*RefireChanges)() = [] {};              ///< pages: a run of moves has ended, the change handlers catch up
-  void (*SheetScrolled)() = [] {};              ///< qt: VScroll1.Value has been set
+  /// app: whether a menu entry has a procedure
+  bool (*CommandExists)(const QString& entry) = [](const QString&) { return true; };
   void (*ShowTermLists)() = [] {};              ///< tools: F5, the list of frequent-terms files
   void (*NextTermList)() = [] {};               ///< tools: F6, the next file of that list
   float (*PrinterWidth)(Control& area, const QString& text) = nullptr;  ///< print: inches; null without a printer

@@ -2,7 +2,6 @@
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/proposal.h"
-#include "model/upcalls.h"
 #include "pages/area_rules.h"
 #include "pages/defaults.h"
 #include "pages/features.h"
@@ -101,10 +100,6 @@ void Settle(Control& control) {
   if (page) GuardedOn(*page, [&] { TakeFigure(*page, control); });
 }
 
-void SetTheEditMenuState(const QString&) {
-  SetEditMenuState();
-}
-
 }  // namespace
 
 bool FixedByFormat(const Page& page, int area) {
@@ -168,7 +163,6 @@ void InstallPageHandlers() {
   handlers.gotFocus = GotFocus;
   handlers.lostFocus = LostFocus;
   handlers.settle = Settle;
-  upcalls().SetEditMenuState = SetTheEditMenuState;
 }
 
 }  // namespace quillane

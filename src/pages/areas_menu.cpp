@@ -1,6 +1,7 @@
 // The states of the text menu's entries.
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "model/upcalls.h"
 #include "pages/area_rules.h"
 #include "ui/desk.h"
 
@@ -18,9 +19,10 @@ State WorkOutState(const Control& area) {
   return State::OnlyTextSelected;
 }
 
-// The entries exist once the frame has built its menus.
+// The entries exist once the frame has built its menus; one whose command is missing never comes alive.
 void Enable(const char* entry, bool on) {
-  if (Control* control = frame().Find(QString::fromLatin1(entry))) control->SetEnabled(on);
+  const QString name = QString::fromLatin1(entry);
+  if (Control* control = frame().Find(name)) control->SetEnabled(on && upcalls().CommandExists(name));
 }
 
 // On the first page the rows of the menu are not those of the item lines; F8 and a double click know better.

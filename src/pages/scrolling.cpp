@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "model/frame.h"
-#include "model/upcalls.h"
 #include "pages/areas.h"
 
 namespace quillane {
@@ -19,10 +18,7 @@ int VisibleHeight() {
 
 void ScrollTo(int value) {
   const int furthest = std::max(0, SheetEnd - VisibleHeight());
-  value = std::clamp(value, 0, furthest);
-  if (value == frame().VScroll1.Value) return;
-  frame().VScroll1.Value = value;
-  upcalls().SheetScrolled();
+  frame().VScroll1.Value = std::clamp(value, 0, furthest);
 }
 
 bool Shows(const Control& control, int key) {

@@ -163,7 +163,7 @@ TEST(Scrolling, GoesOnUntilTheTargetShows) {
   Typist typist;
   static int told;
   told = 0;
-  upcalls().SheetScrolled = [] { ++told; };
+  frame().VScroll1.Value.changed = [](int) { ++told; };
   frame().clientHeight = 3000;
   SetFocus(At("frmP2.txt(35)"));
   typist.Key(keys::Up);
