@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
 #include <QUrl>
@@ -48,6 +49,13 @@ Answer QtDesk::MessageBox(const QString& text, const QString& title, Buttons but
   constexpr int markSize = 48;
   box.setIconPixmap(
       IconOf(QStringLiteral(":/icons/quillane.svg")).pixmap({markSize, markSize}, box.devicePixelRatio()));
+  // The texts come in lines of their own; the box is made as wide as the longest instead of breaking it
+  // again.
+  constexpr int widestText = 720;
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    const int natural = label->fontMetrics().boundingRect({}, Qt::TextExpandTabs, text).width() + 8;
+    label->setMinimumWidth(qMin(natural, widestText));
+  }
   // Words say enough; the toolkit's own pictures on buttons differ from desktop to desktop.
   for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
   // The program's texts are plain; a "<" in a file's name must not become markup.
