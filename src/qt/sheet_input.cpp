@@ -30,6 +30,13 @@ constexpr int LongestText =
 constexpr double TwipsPerNotch = 1080;  // three rows
 constexpr int WheelNotch = 120;
 
+/// Letters and digits have their own character as their number.  Marks have none: the characters "!" to "."
+/// share theirs with Page Up to Delete.
+int NumberOf(int upper) {
+  const bool digit = upper >= '0' && upper <= '9', letter = upper >= 'A' && upper <= 'Z';
+  return digit || letter || upper == ' ' || (upper >= 0xC0 && upper <= 0xFF) ? upper : 0;
+}
+
 int KeyNumber(const QKeyEvent& event) {
   constexpr std::array<std::pair<int, int>, 18> known{{{Qt::Key_Backspace, keys::Backspace},
                                                        {Qt::Key_Tab, keys::Tab},
@@ -53,7 +60,7 @@ int KeyNumber(const QKeyEvent& event) {
     if (event.key() == qt) return number;
   if (event.key() == Qt::Key_Delete) return keys::Delete;
   if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12) return keys::F5 + event.key() - Qt::Key_F5;
-  return event.key() >= Qt::Key_Space && event.key() <= Qt::Key_ydiaeresis ? event.key() : 0;
+  return NumberOf(event.key());
 }
 
 /// What a key writes: a character of the code page, or one of the four that the handlers know by their codes.
@@ -82,8 +89,7 @@ KeyEvent Translate(const QKeyEvent& event) {
 
 KeyEvent KeyFor(QChar character) {
   KeyEvent key;
-  const QChar upper = character.toUpper();
-  key.key = upper.unicode() < 256 ? upper.unicode() : 0;
+  key.key = NumberOf(character.toUpper().unicode());
   key.shift = character.isUpper();
   key.text = character;
   return key;
