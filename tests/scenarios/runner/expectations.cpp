@@ -75,13 +75,22 @@ void ExpectPrinted(World& world, const Statement& statement) {
 }
 
 void ExpectPage(World& world, const Statement& statement) {
-  const std::optional<double> sheet = ReadNumber(statement.At(2));
-  if (!sheet || statement.Count() < 4)
-    throw BadStatement(QStringLiteral("expect page 1 \"Balance Due\" at 7560 2160"));
-  if (!statement.Is(4, "at")) return world.paper.ExpectText(static_cast<int>(*sheet), statement.At(3));
+  const auto bad = [] {
+    return BadStatement(
+        QStringLiteral("expect page 1 \"Balance Due\" at 7560 2160, or expect page 1 prints frmP6"));
+  };
+  const std::optional<double> number = ReadNumber(statement.At(2));
+  if (!number || statement.Count() < 4) throw bad();
+  const int sheet = static_cast<int>(*number);
+  if (statement.Is(3, "prints")) {
+    const Page* page = FindPage(statement.At(4));
+    if (!page) throw bad();
+    return world.paper.ExpectPage(sheet, *page);
+  }
+  if (!statement.Is(4, "at")) return world.paper.ExpectText(sheet, statement.At(3));
   const std::optional<double> left = ReadNumber(statement.At(5)), top = ReadNumber(statement.At(6));
-  if (!left || !top) throw BadStatement(QStringLiteral("expect page 1 \"Balance Due\" at 7560 2160"));
-  world.paper.ExpectText(static_cast<int>(*sheet), statement.At(3), *left, *top);
+  if (!left || !top) throw bad();
+  world.paper.ExpectText(sheet, statement.At(3), *left, *top);
 }
 
 void ExpectOpened(World& world, const Statement& statement) {

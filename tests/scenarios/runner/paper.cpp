@@ -30,6 +30,29 @@ test::PdfPage FirstPage(const QString& file) {
   return pages.front();
 }
 
+/// Texts that end at their area's right edge on paper: the time on page 1, the amounts, and all of the totals
+/// page.
+bool StandsRight(const Page& page, const Control& box) {
+  if (box.Array() != QLatin1String("txt")) return false;
+  if (page.IsTotalsPage()) return true;
+  return page.window == 0 ? box.Index() == 1 || box.Index() >= 28 : box.Index() >= 35;
+}
+
+/// What a control prints; empty for what does not print text.
+QString PrintedText(const Control& control) {
+  if (control.Tag() == QLatin1String("Hide")) return {};
+  const bool box = control.GetKind() == Kind::TextBox;
+  const bool label = control.GetKind() == Kind::Label;
+  return box ? control.Text().trimmed() : label ? control.Caption().trimmed() : QString();
+}
+
+bool StandsAtItsPlace(const test::PdfPage& sheet, const Page& page, const Control& control,
+                      const QString& text) {
+  if (StandsRight(page, control))
+    return test::HasTextEndingAt(sheet, text, control.Left() + control.Width(), control.Top(), Tolerance);
+  return test::HasTextAt(sheet, text, control.Left(), control.Top(), Tolerance);
+}
+
 }  // namespace
 
 void Paper::Look() {
@@ -63,6 +86,22 @@ void Paper::ExpectText(int sheet, const QString& text) {
   const test::PdfPage page = FirstPage(SheetFile(sheet));
   if (test::FindText(page, text).empty())
     throw Failure(InQuotes(text) + QStringLiteral(" on it"), Places({}));
+}
+
+void Paper::ExpectPage(int sheet, const Page& page) {
+  const test::PdfPage there = FirstPage(SheetFile(sheet));
+  QStringList missing, found;
+  for (const Control* control : page.Controls()) {
+    const QString text = PrintedText(*control);
+    if (text.isEmpty() || StandsAtItsPlace(there, page, *control, text)) continue;
+    const float left = StandsRight(page, *control) ? control->Left() + control->Width() : control->Left();
+    missing.append(QStringLiteral("%1 %2 at %3")
+                       .arg(control->FullName(), InQuotes(text),
+                            Place(static_cast<double>(left), static_cast<double>(control->Top()))));
+    found.append(control->FullName() + QLatin1Char(' ') + Places(test::FindText(there, text)));
+  }
+  const QString separator = QStringLiteral("\n            ");
+  if (!missing.isEmpty()) throw Failure(missing.join(separator), found.join(separator));
 }
 
 }  // namespace quillane::scenario

@@ -2,6 +2,7 @@
 #pragma once
 #include <QString>
 
+#include "model/page.h"
 #include "test_desk.h"
 
 namespace quillane::scenario {
@@ -19,6 +20,8 @@ class Paper {
   void ExpectText(int sheet, const QString& text, double left, double top);
   /// Throws Failure when the text is nowhere on the sheet.
   void ExpectText(int sheet, const QString& text);
+  /// Throws Failure with every text of a page that the sheet does not have at its place.
+  void ExpectPage(int sheet, const Page& page);
 
  private:
   void Look();
