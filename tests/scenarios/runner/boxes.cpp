@@ -1,5 +1,6 @@
 #include "boxes.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 
 #include "values.h"
@@ -79,7 +80,14 @@ void Boxes::Keep(const QString& text, const QString& title, bool answered) {
 }
 
 bool Boxes::Foreseen::Fits(const Shown& box) const {
-  return box.text == text && (!title || box.title == *title);
+  if (title && box.title != *title) return false;
+  if (match == Match::Exact) return box.text == text;
+  QStringList parts;
+  for (const QString& part : text.split(QLatin1Char('*'))) parts.append(QRegularExpression::escape(part));
+  static constexpr auto Any = QRegularExpression::DotMatchesEverythingOption;
+  return QRegularExpression(QRegularExpression::anchoredPattern(parts.join(QLatin1String(".*"))), Any)
+      .match(box.text)
+      .hasMatch();
 }
 
 QString Boxes::Foreseen::Words() const {
@@ -90,8 +98,8 @@ QString Boxes::Words(const Shown& box) {
   return InQuotes(box.text) + QStringLiteral(" title ") + InQuotes(box.title);
 }
 
-QString Boxes::Foresee(int line, const QString& text, const std::optional<QString>& title) {
-  const Foreseen expected{line, Plain(text), title};
+QString Boxes::Foresee(int line, const QString& text, const std::optional<QString>& title, Match match) {
+  const Foreseen expected{line, Plain(text), title, match};
   for (size_t at = reached_; foreseen_.empty() && at < shown_.size(); ++at) {
     Shown& box = shown_[at];
     if (expected.Fits(box)) {

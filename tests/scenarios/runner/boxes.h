@@ -11,6 +11,9 @@
 
 namespace quillane::scenario {
 
+/// How a `message` line compares: letter for letter, or with "*" standing for anything.
+enum class Match { Exact, Like };
+
 /// Keeps the `answer` lines until a box takes them, and compares the boxes that come with the `message`
 /// lines, which may stand before or after the statement that brings the box.
 class Boxes {
@@ -28,7 +31,8 @@ class Boxes {
 
   /// `message`: the next box says exactly that.  What differs, in words; empty when it fits or has still to
   /// come.
-  QString Foresee(int line, const QString& text, const std::optional<QString>& title);
+  QString Foresee(int line, const QString& text, const std::optional<QString>& title,
+                  Match match = Match::Exact);
   /// `nomessage`: every box so far was foreseen or answered.  What came, in words; empty for none.
   QString Unforeseen() const;
   /// A box that may come unasked: it is kept, and a `message` line may still ask for it.
@@ -62,6 +66,7 @@ class Boxes {
     int line;
     QString text;
     std::optional<QString> title;
+    Match match;
     bool Fits(const Shown& box) const;
     QString Words() const;
   };

@@ -140,15 +140,16 @@ void Expect(World& world, const Statement& statement) {
 void Message(World& world, const Statement& statement) {
   std::optional<QString> title;
   QStringList lines;
-  for (size_t at = 1; at < statement.Count(); ++at) {
+  const Match match = statement.Is(1, "like") ? Match::Like : Match::Exact;
+  for (size_t at = match == Match::Like ? 2 : 1; at < statement.Count(); ++at) {
     if (statement.Is(at, "title"))
       title = statement.At(++at);
     else
       lines.append(statement.At(at));
   }
-  if (lines.isEmpty()) throw BadStatement(QStringLiteral("message \"text\" [title \"text\"]"));
+  if (lines.isEmpty()) throw BadStatement(QStringLiteral("message [like] \"text\" [title \"text\"]"));
   const QString text = lines.join(QLatin1Char('\n'));
-  const QString instead = world.desk.boxes.Foresee(statement.line, text, title);
+  const QString instead = world.desk.boxes.Foresee(statement.line, text, title, match);
   if (!instead.isEmpty())
     throw Failure(QStringLiteral("the box ") + InQuotes(text) +
                       (title ? QStringLiteral(" title ") + InQuotes(*title) : QString()),

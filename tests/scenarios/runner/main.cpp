@@ -78,13 +78,20 @@ bool PlayOne(int& argc, char** argv, const QString& path, QTextStream& out) {
   }
 }
 
+/// A script that takes longer waits for something that will not come (milliseconds).
+constexpr int LongestScript = 100'000;
+
 /// Plays a script in a process of its own: what one script leaves behind, or how it ends, is nothing to the
 /// next.
 bool PlayApart(const QString& program, const QString& path, QTextStream& out) {
   QProcess process;
   process.setProcessChannelMode(QProcess::MergedChannels);
   process.start(program, {QStringLiteral("--one"), path});
-  if (!process.waitForFinished(-1)) out << path << ": " << process.errorString() << '\n';
+  if (!process.waitForFinished(LongestScript)) {
+    out << path << ": still not at its end: " << process.errorString() << '\n';
+    process.kill();
+    process.waitForFinished();
+  }
   out << QString::fromUtf8(process.readAll());
   if (process.exitStatus() == QProcess::CrashExit) out << path << ": the program crashed\n";
   return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;

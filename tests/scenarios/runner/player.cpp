@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QTimer>
 #include <algorithm>
 
 #include "failure.h"
@@ -34,15 +35,23 @@ Player::Player(QString path, std::vector<Statement> statements, Places places, Q
     : path_(std::move(path)),
       statements_(std::move(statements)),
       out_(out),
-      world_(QFileInfo(path_).absolutePath(), QFileInfo(path_).completeBaseName(), std::move(places)) {
-  QObject::connect(&ticker_, &QTimer::timeout, &ticker_, [this] { Tick(); });
-}
+      world_(QFileInfo(path_).absolutePath(), QFileInfo(path_).completeBaseName(), std::move(places)) {}
 
 bool Player::Play() {
-  ticker_.start(0);
+  Schedule();
   // The program's own end quits the application; the script goes on until it has ended itself.
   while (!finished_) QApplication::exec();
   return failures_ == 0;
+}
+
+/// A timer whose own function still runs is asleep in the loops that it opened: every look has a timer of its
+/// own.
+void Player::Schedule() {
+  QTimer::singleShot(0, &clock_, [this] {
+    if (finished_) return;
+    Schedule();
+    Tick();
+  });
 }
 
 bool Player::MayGoOn() const {
@@ -57,7 +66,7 @@ bool Player::MayGoOn() const {
 }
 
 void Player::Tick() {
-  if (finished_ || !MayGoOn()) return;
+  if (!MayGoOn()) return;
   if (stopped_ || next_ == statements_.size()) return Finish();
   const Statement& statement = statements_[next_++];
   world_.desk.boxes.SetLine(statement.line);
@@ -97,7 +106,6 @@ void Player::Finish() {
   }
   ReportBoxes();
   finished_ = true;
-  ticker_.stop();
   world_.End();
   QApplication::quit();
 }

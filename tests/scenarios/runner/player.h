@@ -1,7 +1,7 @@
 // Plays a script: one statement after the other, also inside the windows that a statement opens.
 #pragma once
+#include <QObject>
 #include <QTextStream>
-#include <QTimer>
 #include <vector>
 
 #include "world.h"
@@ -23,6 +23,7 @@ class Player {
     QWidget* popup;
   };
 
+  void Schedule();
   void Tick();
   bool MayGoOn() const;
   void Run(const Statement& statement);
@@ -34,7 +35,7 @@ class Player {
   std::vector<Statement> statements_;
   QTextStream& out_;
   World world_;
-  QTimer ticker_;
+  QObject clock_;  ///< the owner of the timers that drive the script
   std::vector<Running> running_;
   size_t next_ = 0;
   bool stopped_ = false;  ///< an action failed: what follows makes no sense

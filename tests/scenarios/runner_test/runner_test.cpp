@@ -130,6 +130,14 @@ TEST(BoxesTest, AnotherTextOrTitleOrNoBoxFails) {
   EXPECT_EQ(early.Faults().size(), 1u) << "the box before the foreseen one came unasked";
 }
 
+TEST(BoxesTest, AMessageLikeAPatternLeavesOutWhatVaries) {
+  Boxes boxes;
+  boxes.Ask("An error occurred in X.\nFile not found: /a/b (1)", "T", Buttons::Ok);
+  EXPECT_NE(boxes.Foresee(1, "An error occurred in Y.*", std::nullopt, Match::Like), "");
+  boxes.Ask("An error occurred in X.\nFile not found: /a/b (1)", "T", Buttons::Ok);
+  EXPECT_EQ(boxes.Foresee(2, "*in X.\nFile*(1)", std::nullopt, Match::Like), "");
+}
+
 TEST(BoxesTest, OneBoxSatisfiesOneMessage) {
   Boxes boxes;
   boxes.Ask("Saved", "", Buttons::Ok);
