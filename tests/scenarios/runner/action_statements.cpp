@@ -29,6 +29,7 @@ int RowNamed(const Target& list, const Word& row) {
 }
 
 void Start(World& world, const Statement& statement) {
+  world.desk.actsDuringSplash = statement.Is(2, "moving");
   world.Start(statement.Is(1, "splash") ? Program::Splash::Show : Program::Splash::Skip);
 }
 

@@ -13,7 +13,8 @@ namespace quillane::scenario {
 
 namespace {
 
-void Compare(const QString& wanted, const QString& there) {
+void Compare(const QString& wanted, QString there) {
+  there.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   if (wanted != there) throw Failure(InQuotes(wanted), InQuotes(there));
 }
 
@@ -29,7 +30,7 @@ bool HasFocus(World& world, const Target& target) {
   QWidget* focus = QApplication::focusWidget();
   if (target.control) {
     // The model's focus and the keyboard's must agree, or keys would write somewhere else.
-    if (editing.Focus != target.control) return false;
+    if (editing.Focus != target.control) return focus && focus == target.widget;
     return !target.page ||
            (focus && (focus == &world.stage.Sheet() || world.stage.Sheet().isAncestorOf(focus)));
   }

@@ -47,7 +47,7 @@ using ControlReader = std::function<Value(const Control&)>;
 const Readers<ControlReader>& ControlReaders() {
   static const Readers<ControlReader> readers{
       {"text", [](const Control& c) { return TextValue(c.Text()); }},
-      {"caption", [](const Control& c) { return TextValue(c.Caption()); }},
+      {"caption", [](const Control& c) { return CaptionValue(c.Caption()); }},
       {"tag", [](const Control& c) { return TextValue(c.Tag()); }},
       {"tooltip", [](const Control& c) { return TextValue(c.ToolTip()); }},
       {"visible", [](const Control& c) { return BooleanValue(c.Visible()); }},
@@ -99,27 +99,29 @@ const Widget* As(const QWidget& widget) {
   return qobject_cast<const Widget*>(&widget);
 }
 
-QString WithoutAccessKey(const QString& caption) {
-  QString plain;
-  for (qsizetype at = 0; at < caption.size(); ++at) {
-    if (caption[at] == QLatin1Char('&') && at + 1 < caption.size()) ++at;
-    plain += caption[at];
-  }
-  return plain;
-}
-
-std::optional<QString> TextOf(const QWidget& widget) {
+/// What was typed or chosen.
+std::optional<QString> EntryOf(const QWidget& widget) {
   if (const auto* edit = As<QLineEdit>(widget)) return edit->text();
   if (const auto* edit = As<QPlainTextEdit>(widget)) return edit->toPlainText();
   if (const auto* edit = As<QTextEdit>(widget)) return edit->toPlainText();
   if (const auto* box = As<QComboBox>(widget)) return box->currentText();
-  if (const auto* label = As<QLabel>(widget))
-    return label->buddy() ? WithoutAccessKey(label->text()) : label->text();
-  if (const auto* button = As<QAbstractButton>(widget)) return WithoutAccessKey(button->text());
-  if (const auto* box = As<QGroupBox>(widget)) return WithoutAccessKey(box->title());
   if (const auto* spin = As<QAbstractSpinBox>(widget)) return spin->text();
   if (const auto* view = As<QAbstractItemView>(widget)) return view->currentIndex().data().toString();
+  return std::nullopt;
+}
+
+/// What stands on it.
+std::optional<QString> LetteringOf(const QWidget& widget) {
+  if (const auto* label = As<QLabel>(widget)) return label->text();
+  if (const auto* button = As<QAbstractButton>(widget)) return button->text();
+  if (const auto* box = As<QGroupBox>(widget)) return box->title();
   if (widget.isWindow()) return widget.windowTitle();
+  return std::nullopt;
+}
+
+std::optional<Value> TextOf(const QWidget& widget) {
+  if (const std::optional<QString> entry = EntryOf(widget)) return TextValue(*entry);
+  if (const std::optional<QString> lettering = LetteringOf(widget)) return CaptionValue(*lettering);
   return std::nullopt;
 }
 
@@ -164,10 +166,6 @@ Color ToColour(const QColor& colour) {
   return colour.red() | colour.green() << 8 | colour.blue() << 16;
 }
 
-std::optional<Value> Optional(const std::optional<QString>& text) {
-  return text ? std::optional(TextValue(*text)) : std::nullopt;
-}
-
 std::optional<Value> ListProperty(const QWidget& widget, const QString& name, int index) {
   if (!As<QComboBox>(widget) && !As<QAbstractItemView>(widget)) return std::nullopt;
   if (name == QLatin1String("listindex")) return NumberValue(CurrentRow(widget));
@@ -191,8 +189,8 @@ using WidgetReader = std::function<std::optional<Value>(const QWidget&)>;
 
 const Readers<WidgetReader>& WidgetReaders() {
   static const Readers<WidgetReader> readers{
-      {"text", [](const QWidget& w) { return Optional(TextOf(w)); }},
-      {"caption", [](const QWidget& w) { return Optional(TextOf(w)); }},
+      {"text", [](const QWidget& w) { return TextOf(w); }},
+      {"caption", [](const QWidget& w) { return TextOf(w); }},
       {"checked", [](const QWidget& w) { return CheckOf(w); }},
       {"value",
        [](const QWidget& w) {
@@ -234,13 +232,14 @@ std::optional<Value> WidgetProperty(const QWidget& widget, const QString& name, 
   return list ? list : SelectionProperty(widget, name);
 }
 
-/// A menu entry that only its window knows.
+/// A menu entry as its menu shows it, which is what a person can use.
 std::optional<Value> ActionProperty(const QAction& action, const QString& name) {
-  if (name == QLatin1String("caption") || name == QLatin1String("text"))
-    return TextValue(WithoutAccessKey(action.text()));
+  if (name.isEmpty() || name == QLatin1String("caption") || name == QLatin1String("text"))
+    return CaptionValue(action.text());
   if (name == QLatin1String("visible")) return BooleanValue(action.isVisible());
   if (name == QLatin1String("enabled")) return BooleanValue(action.isEnabled());
-  if (name == QLatin1String("checked")) return BooleanValue(action.isChecked());
+  if (name == QLatin1String("checked") || name == QLatin1String("value"))
+    return BooleanValue(action.isChecked());
   return std::nullopt;
 }
 
@@ -254,11 +253,9 @@ std::optional<Value> PageProperty(const Page& page, const QString& name) {
 /// What the main window shows of a control must be what its state says: a person sees the window.
 void CheckShown(const Target& target, const QString& name, const Value& state) {
   std::optional<Value> shown;
-  if (target.action && name != QLatin1String("caption"))
-    shown = ActionProperty(*target.action, name);
-  else if (target.widget && name == QLatin1String("visible"))
+  if (name == QLatin1String("visible"))
     shown = BooleanValue(target.widget->isVisibleTo(target.widget->window()));
-  else if (target.widget && name == QLatin1String("enabled"))
+  if (name == QLatin1String("enabled"))
     shown = BooleanValue(target.widget->isEnabledTo(target.widget->window()));
   if (shown && shown->text != state.text)
     throw Failure(
@@ -266,21 +263,26 @@ void CheckShown(const Target& target, const QString& name, const Value& state) {
         QStringLiteral("the window has ") + shown->text);
 }
 
+std::optional<Value> ReadControl(const Target& target, const QString& name) {
+  const QString wanted = name.isEmpty() ? ChiefProperty(*target.control) : name;
+  const auto reader = ControlReaders().find(wanted);
+  if (reader == ControlReaders().end()) return std::nullopt;
+  const Value value = reader->second(*target.control);
+  if (!target.page && target.widget) CheckShown(target, wanted, value);
+  return value;
+}
+
+std::optional<Value> ReadWidget(const QWidget& widget, const QString& name, int index) {
+  if (!name.isEmpty()) return WidgetProperty(widget, name, index);
+  const std::optional<Value> text = TextOf(widget);
+  return text ? text : NumberOf(widget);
+}
+
 std::optional<Value> Read(const Target& target, const QString& name, int index) {
-  if (target.control) {
-    const QString wanted = name.isEmpty() ? ChiefProperty(*target.control) : name;
-    const auto reader = ControlReaders().find(wanted);
-    if (reader == ControlReaders().end()) return std::nullopt;
-    const Value value = reader->second(*target.control);
-    if (!target.page) CheckShown(target, wanted, value);
-    return value;
-  }
+  if (target.action) return ActionProperty(*target.action, name);
+  if (target.control) return ReadControl(target, name);
   if (target.isWindow && target.page) return PageProperty(*target.page, name);
-  if (target.action) return ActionProperty(*target.action, name.isEmpty() ? QStringLiteral("caption") : name);
-  if (!target.widget) return std::nullopt;
-  if (!name.isEmpty()) return WidgetProperty(*target.widget, name, index);
-  const std::optional<Value> text = Optional(TextOf(*target.widget));
-  return text ? text : NumberOf(*target.widget);
+  return target.widget ? ReadWidget(*target.widget, name, index) : std::nullopt;
 }
 
 void RowsUnder(const QAbstractItemModel& model, const QModelIndex& parent, int column,

@@ -31,7 +31,10 @@ class TestDesk : public QtDesk {
   int beeps = 0;
 
   /// True while the program serves the event loop in the middle of something: the script waits meanwhile.
-  bool Serving() const { return serving_ > 0; }
+  bool Serving() const {
+    return serving_ > 0 && !(actsDuringSplash && WindowIsOpen(QStringLiteral("frmSplash")));
+  }
+  bool actsDuringSplash = false;
 
   Answer MessageBox(const QString& text, const QString& title, Buttons buttons) override {
     return boxes.Ask(text, title, buttons);
@@ -51,7 +54,7 @@ class TestDesk : public QtDesk {
   int ScreenHeight() const override { return screenHeight; }
   QDateTime Now() const override { return now; }
   /// Runs ahead with each look, so that no scenario waits for real time.
-  qint64 TickCount() const override { return ticks_ += 25; }
+  qint64 TickCount() const override { return ticks_ += 50; }
   void ServeEvents() override;
   void Beep() override { ++beeps; }
 

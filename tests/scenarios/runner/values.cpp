@@ -35,6 +35,9 @@ bool EqualNumbers(const Value& actual, const QString& expected) {
 Value TextValue(const QString& text) {
   return {ValueKind::Text, text};
 }
+Value CaptionValue(const QString& text) {
+  return {ValueKind::Caption, text};
+}
 Value NumberValue(double number) {
   return {ValueKind::Number, QString::number(number, 'g', 9)};
 }
@@ -65,6 +68,8 @@ bool Equal(const Value& actual, const QString& expected) {
   switch (actual.kind) {
     case ValueKind::Text:
       return actual.text == expected;
+    case ValueKind::Caption:
+      return actual.text == expected || WithoutAccessKey(actual.text) == expected;
     case ValueKind::Name:
       return actual.text.compare(expected, Qt::CaseInsensitive) == 0;
     case ValueKind::Boolean: {
@@ -74,6 +79,15 @@ bool Equal(const Value& actual, const QString& expected) {
     default:
       return EqualNumbers(actual, expected);
   }
+}
+
+QString WithoutAccessKey(const QString& caption) {
+  QString plain;
+  for (qsizetype at = 0; at < caption.size(); ++at) {
+    if (caption[at] == QLatin1Char('&') && at + 1 < caption.size()) ++at;
+    plain += caption[at];
+  }
+  return plain;
 }
 
 QString InQuotes(QString text) {

@@ -10,6 +10,7 @@ namespace quillane::scenario {
 /// How a property's values compare.
 enum class ValueKind {
   Text,     ///< letter for letter
+  Caption,  ///< letter for letter, with or without the "&" of an access key
   Name,     ///< without regard to case: font names
   Number,   ///< as numbers
   Twips,    ///< as numbers, half a twip apart at most
@@ -23,6 +24,7 @@ struct Value {
 };
 
 Value TextValue(const QString& text);
+Value CaptionValue(const QString& text);
 Value NumberValue(double number);
 Value TwipsValue(double twips);
 Value ColourValue(Color colour);
@@ -32,6 +34,9 @@ Value BooleanValue(bool value);
 std::optional<double> ReadNumber(const QString& text);
 /// True when `expected`, as a script writes it, is the value.
 bool Equal(const Value& actual, const QString& expected);
+
+/// A caption as a person reads it.
+QString WithoutAccessKey(const QString& caption);
 
 /// In quotes, with line breaks and quotes escaped as scripts write them.
 QString InQuotes(QString text);
