@@ -38,19 +38,28 @@ bool StandsRight(const Page& page, const Control& box) {
   return page.window == 0 ? box.Index() == 1 || box.Index() >= 28 : box.Index() >= 35;
 }
 
-/// What a control prints; empty for what does not print text.
-QString PrintedText(const Control& control) {
-  if (control.Tag() == QLatin1String("Hide")) return {};
-  const bool box = control.GetKind() == Kind::TextBox;
-  const bool label = control.GetKind() == Kind::Label;
-  return box ? control.Text().trimmed() : label ? control.Caption().trimmed() : QString();
+/// A text that a control prints, and where its first letter stands, or its last.
+struct Print {
+  QString text;
+  float left = 0, right = 0;
+  bool toTheRight = false;
+};
+
+/// What a control prints; the text is empty for what does not print any.
+Print PrintOf(const Page& page, const Control& control) {
+  const bool box = control.GetKind() == Kind::TextBox, label = control.GetKind() == Kind::Label;
+  if (control.Tag() == QLatin1String("Hide") || (!box && !label)) return {};
+  const QString whole = box ? control.Text() : control.Caption();
+  qsizetype blanks = 0;
+  while (blanks < whole.size() && whole[blanks].isSpace()) ++blanks;
+  // Blanks before the first letter are printed too, but a sheet's words do not show them.
+  return {whole.trimmed(), control.Left() + TextWidth(control.GetFont(), whole.left(blanks)),
+          control.Left() + control.Width(), StandsRight(page, control)};
 }
 
-bool StandsAtItsPlace(const test::PdfPage& sheet, const Page& page, const Control& control,
-                      const QString& text) {
-  if (StandsRight(page, control))
-    return test::HasTextEndingAt(sheet, text, control.Left() + control.Width(), control.Top(), Tolerance);
-  return test::HasTextAt(sheet, text, control.Left(), control.Top(), Tolerance);
+bool StandsAtItsPlace(const test::PdfPage& sheet, const Print& print, float top) {
+  return print.toTheRight ? test::HasTextEndingAt(sheet, print.text, print.right, top, Tolerance)
+                          : test::HasTextAt(sheet, print.text, print.left, top, Tolerance);
 }
 
 }  // namespace
@@ -92,13 +101,13 @@ void Paper::ExpectPage(int sheet, const Page& page) {
   const test::PdfPage there = FirstPage(SheetFile(sheet));
   QStringList missing, found;
   for (const Control* control : page.Controls()) {
-    const QString text = PrintedText(*control);
-    if (text.isEmpty() || StandsAtItsPlace(there, page, *control, text)) continue;
-    const float left = StandsRight(page, *control) ? control->Left() + control->Width() : control->Left();
+    const Print print = PrintOf(page, *control);
+    if (print.text.isEmpty() || StandsAtItsPlace(there, print, control->Top())) continue;
+    const float edge = print.toTheRight ? print.right : print.left;
     missing.append(QStringLiteral("%1 %2 at %3")
-                       .arg(control->FullName(), InQuotes(text),
-                            Place(static_cast<double>(left), static_cast<double>(control->Top()))));
-    found.append(control->FullName() + QLatin1Char(' ') + Places(test::FindText(there, text)));
+                       .arg(control->FullName(), InQuotes(print.text),
+                            Place(static_cast<double>(edge), static_cast<double>(control->Top()))));
+    found.append(control->FullName() + QLatin1Char(' ') + Places(test::FindText(there, print.text)));
   }
   const QString separator = QStringLiteral("\n            ");
   if (!missing.isEmpty()) throw Failure(missing.join(separator), found.join(separator));
