@@ -9,9 +9,10 @@ namespace quillane::scenario {
 
 namespace {
 
-/// Scripts write a line break as \n, whatever the platform's is.
-QString Plain(QString text) {
-  return text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+/// Scripts write a line break as \n, whatever the platform's is, and need not count blanks that nobody sees.
+QString Plain(const QString& text) {
+  static const QRegularExpression lineEnd(QStringLiteral("[ \\r]*\n"));
+  return QString(text).replace(lineEnd, QStringLiteral("\n"));
 }
 
 /// A box that only says OK takes no answer that was meant for a question, nor the other way round.

@@ -72,6 +72,7 @@ void Player::Tick() {
   world_.desk.boxes.SetLine(statement.line);
   running_.push_back({QApplication::activeModalWidget(), QApplication::activePopupWidget()});
   Run(statement);
+  world_.stage.KeepActive();
   running_.pop_back();
   if (running_.empty()) world_.EndIfLeft();
 }

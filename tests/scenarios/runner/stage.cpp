@@ -105,9 +105,19 @@ QWidget* Stage::Window(const QString& name) const {
   return nullptr;
 }
 
+void Stage::KeepActive() const {
+  QWidget* active = QApplication::activeWindow();
+  if (QApplication::activePopupWidget() || (active && active->isVisible())) return;
+  QWidget* front = Front();
+  if (!front || !front->isVisible()) return;
+  front->activateWindow();
+  QCoreApplication::processEvents();
+}
+
 QWidget* Stage::Front() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  if (QWidget* active = QApplication::activeWindow()) return active;
+  QWidget* active = QApplication::activeWindow();
+  if (active && active->isVisible()) return active;
   return program ? program->Window() : nullptr;
 }
 

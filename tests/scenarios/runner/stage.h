@@ -28,6 +28,9 @@ struct Stage {
   SheetView& Sheet() const;
   /// The open window of that name, in any case; null for none.
   QWidget* Window(const QString& name) const;
+  /// Gives the keyboard back to the window in front where a menu or a window that has closed took it along: a
+  /// desktop's window manager does that, and the platform without a screen has none.
+  void KeepActive() const;
   /// The window in front: the one that takes keys and clicks.
   QWidget* Front() const;
 };

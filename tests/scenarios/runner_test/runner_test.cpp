@@ -130,6 +130,12 @@ TEST(BoxesTest, AnotherTextOrTitleOrNoBoxFails) {
   EXPECT_EQ(early.Faults().size(), 1u) << "the box before the foreseen one came unasked";
 }
 
+TEST(BoxesTest, BlanksAtALinesEndDoNotCount) {
+  Boxes boxes;
+  boxes.Ask("any of \r\nthe following", "T", Buttons::Ok);
+  EXPECT_EQ(boxes.Foresee(1, "any of\nthe following", std::nullopt), "");
+}
+
 TEST(BoxesTest, AMessageLikeAPatternLeavesOutWhatVaries) {
   Boxes boxes;
   boxes.Ask("An error occurred in X.\nFile not found: /a/b (1)", "T", Buttons::Ok);
