@@ -211,7 +211,7 @@ void ShowDuplicateFileOptions(const QString& fileName) {
 bool IllegalFileName(const QString& name) {
   if (!HasForbiddenCharacter(name)) return false;
   Tell(QStringLiteral(
-      "Action Cancelled. File Name cannot include any of\nthe following characters: / \\ : * ? < > |"));
+      "Action Cancelled. File Name cannot include any of \nthe following characters: / \\ : * ? < > |"));
   return true;
 }
 

@@ -43,7 +43,7 @@ TEST_F(Saving, RefusesWithoutANameOrWithOneThatNoFileMayHave) {
     desk_.said.clear();
     Type("frmP1.txt(2)", QStringLiteral("Ann") + c + "Lee");
     EXPECT_FALSE(SaveEventFile());
-    EXPECT_EQ(Said(), QStringList("Action Cancelled. File Name cannot include any of\n"
+    EXPECT_EQ(Said(), QStringList("Action Cancelled. File Name cannot include any of \n"
                                   "the following characters: / \\ : * ? < > |"));
     EXPECT_FALSE(proposal.FileIsNamed);
   }
@@ -144,7 +144,8 @@ TEST_F(Saving, UnderAnotherNameMayBeRefused) {
   };
   const Case cases[] = {
       {" ", "No name entered. File not saved.", Answer::Yes},
-      {"a?b", "Action Cancelled. File Name cannot include any of\nthe following characters: / \\ : * ? < > |",
+      {"a?b",
+       "Action Cancelled. File Name cannot include any of \nthe following characters: / \\ : * ? < > |",
        Answer::Yes},
       {"Taken", "Action Cancelled. File not saved.", Answer::No},
       {"Taken", "Action Cancelled. File not saved.", Answer::Cancel}};
