@@ -4,9 +4,11 @@
 #include "files/property_file.h"
 #include "model/frame.h"
 #include "model/report.h"
+#include "model/selection.h"
 #include "model/upcalls.h"
 #include "pages/changes.h"
 #include "pages/defaults.h"
+#include "pages/selection.h"
 #include "pages/titles.h"
 #include "pages/totals.h"
 #include "platform/files.h"
@@ -59,7 +61,9 @@ void ForgetEditing() {
   editing.CurrentPage = 0;
   editing.CurrentArea = 0;
   editing.KeysSinceBackup = 0;
-  editing.AreasSelected = editing.SelectionMemoryFull = false;
+  ClearSelection();
+  selection = {};
+  editing.MovingContents = editing.UndoAvailable = false;
   editing.RecalcPending = editing.RecalcMarked = false;
   editing.TextOverflowing = editing.PushPending = editing.PushKeepCaret = editing.PushMoveCaret = false;
   editing.DateWarningGiven = false;

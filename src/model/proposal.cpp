@@ -2,6 +2,7 @@
 
 #include "model/focus.h"
 #include "model/frame.h"
+#include "model/selection.h"
 
 namespace quillane {
 
@@ -22,6 +23,7 @@ void ResetState() {
   tax = {};
   fileDialog = {};
   terms = {};
+  selection = {};
   const QString programFolder = prefs.ProgramFolder;  // the run's, not the proposal's
   prefs = {};
   prefs.ProgramFolder = programFolder;

@@ -17,8 +17,6 @@ struct Upcalls {
   void (*ReAdjustScrollBar)(int window) = [](int) {};           ///< app
   void (*FrequentTermsHook)(Control& area) = [](Control&) {};   ///< tools: a key was typed while auto-complete is on
   bool (*AcceptGuess)(Control& area, int key, bool shift) = [](Control&, int, bool) { return false; };  ///< tools
-  void (*MoveContents)(bool down) = [](bool) {};                ///< pages: Shift + arrow over a selection
-  void (*RefireChanges)() = [] {};              ///< pages: a run of moves has ended, the change handlers catch up
   /// app: whether a menu entry has a procedure
   bool (*CommandExists)(const QString& entry) = [](const QString&) { return true; };
   void (*ShowTermLists)() = [] {};              ///< tools: F5, the list of frequent-terms files

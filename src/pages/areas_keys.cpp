@@ -6,6 +6,7 @@
 #include "model/proposal.h"
 #include "model/upcalls.h"
 #include "pages/area_rules.h"
+#include "pages/selection.h"
 #include "pages/totals.h"
 #include "ui/desk.h"
 
@@ -159,7 +160,7 @@ bool HasSelection(const Page& page) {
 
 void MoveBlock(Page& page, bool down) {
   editing.MoveRow = -1;
-  upcalls().MoveContents(down);
+  MoveContents(page, down ? Direction::Down : Direction::Up);
   if (editing.MoveRow >= 0) ScrollToShow(At(page.txt, editing.MoveRow), down ? keys::PageDown : keys::PageUp);
 }
 
@@ -232,8 +233,7 @@ void KeyUp(Control& control, const KeyEvent& event) {
 
 void FormKeyUp(Page& page, const KeyEvent& event) {
   if (!editing.MovingContents || event.shift || page.IsTotalsPage()) return;
-  editing.MovingContents = false;
-  GuardedOn(page, [] { upcalls().RefireChanges(); });
+  GuardedOn(page, [&] { FinishMove(page); });
 }
 
 }  // namespace quillane

@@ -6,6 +6,7 @@
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/report.h"
+#include "pages/selection.h"
 #include "platform/numbers.h"
 #include "ui/desk.h"
 
@@ -287,6 +288,7 @@ void RewriteDeposit() {
 
 void TakeFocusedAmount() {
   SettleFocus();
+  if (editing.CurrentForm && editing.CurrentForm->IsItemPage()) FinishMove(*editing.CurrentForm);
 }
 
 void ShowRunningSubTotal() {

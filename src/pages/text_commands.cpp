@@ -1,0 +1,67 @@
+// Letter case and weight of the area that has the focus.
+#include "model/focus.h"
+#include "model/proposal.h"
+#include "model/selection.h"
+#include "pages/areas.h"
+#include "pages/row_contents.h"
+#include "pages/selection.h"
+
+namespace quillane {
+
+namespace {
+
+QString ProperCase(const QString& text) {
+  QString result = text.toLower();
+  bool start = true;
+  for (QChar& c : result) {
+    if (start) c = c.toUpper();
+    start = c.isSpace();
+  }
+  return result;
+}
+
+QString InCase(const QString& text, LetterCase to) {
+  switch (to) {
+    case LetterCase::Lower:
+      return text.toLower();
+    case LetterCase::Upper:
+      return text.toUpper();
+    case LetterCase::Proper:
+      break;
+  }
+  return ProperCase(text);
+}
+
+void SetWeight(bool bold) {
+  Page& page = *editing.CurrentForm;
+  const auto p = static_cast<size_t>(page.pageIndex);
+  const auto i = static_cast<size_t>(editing.CurrentArea);
+  page.txt.at(i).SetFontBold(bold);
+  if (proposal.TextRec[p][i].FontBold != bold) {
+    for (TextTable* table : {&proposal.TextRec, &format.FormatTextRec}) {
+      (*table)[p][i].PropChanged = true;
+      (*table)[p][i].FontBold = bold;
+    }
+  }
+  if (page.window == 5) quillane::page(CopyOfPage6).txt.at(i).SetFontBold(bold);
+  SetEditMenuState();
+}
+
+}  // namespace
+
+void ChangeCase(LetterCase to) {
+  Control& area = editing.CurrentForm->txt.at(static_cast<size_t>(editing.CurrentArea));
+  if (!AcceptsTyping(area)) return;
+  area.SetSelection(editing.SelectedTextStart, editing.SelectedTextLength);
+  SetFocus(area);
+  area.ReplaceSelection(InCase(area.SelText(), to));
+}
+
+void MakeBold() {
+  SetWeight(true);
+}
+void MakeNormal() {
+  SetWeight(false);
+}
+
+}  // namespace quillane
