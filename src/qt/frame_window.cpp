@@ -18,6 +18,7 @@
 #include "model/upcalls.h"
 #include "pages/areas.h"
 #include "qt/icons.h"
+#include "qt/rubber_band.h"
 #include "qt/sheet_view.h"
 
 namespace quillane {
@@ -77,6 +78,10 @@ void FrameWindow::ConnectModel() {
   };
   upcalls().PopUpTextMenu = PopUpTextMenu;
   sheet_->scrollTo = [](int value) { frame().VScroll1.Value = qBound(0, value, frame().VScroll1.Max); };
+  auto* band = new RubberBand(*sheet_);  // lives as long as the sheet's view
+  sheet_->pageMouse = [band](const PageMouseEvent& event) {
+    if (!event.control) band->Handle(event);
+  };
   connect(scrollBar_, &QScrollBar::valueChanged, this, [](int value) { frame().VScroll1.Value = value; });
   FollowTitle();
 }

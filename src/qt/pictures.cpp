@@ -1,7 +1,8 @@
 #include "qt/pictures.h"
 
-#include <QBuffer>
 #include <QCache>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPaintEngine>
 #include <QPainter>
@@ -9,7 +10,6 @@
 #include <map>
 #include <memory>
 
-#include "platform/files.h"
 #include "platform/runtime_error.h"
 
 namespace quillane {
@@ -20,34 +20,15 @@ constexpr qint64 MostPixels = 100'000'000;  // a damaged or hostile header must 
 constexpr float TwipsPerPixel = 15;
 constexpr qsizetype CacheKilobytes = 16 * 1024;
 
-constexpr size_t KeptFiles = 4;
-
-/// The program's own drawings; a picture of the user's is always a file.
 bool IsDrawing(const QString& source) {
-  return source.startsWith(QLatin1Char(':'));
+  return source.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
 }
 
-/// The files of the pictures in use as they were when they were loaded: a share that goes away takes no logo
-/// along, and painting never waits for it.
-std::map<QString, QByteArray>& Files() {
-  static std::map<QString, QByteArray> files;
-  return files;
-}
-
-QCache<QString, QImage>& ScaledImages() {
-  static QCache<QString, QImage> images(CacheKilobytes);
-  return images;
-}
-
-const QByteArray& LoadFile(const QString& source) {
-  if (Files().size() >= KeptFiles) Files().clear();
-  ScaledImages().clear();
-  return Files()[source] = ReadWholeFile(source);
-}
-
-const QByteArray& FileOf(const QString& source) {
-  const auto known = Files().find(source);
-  return known != Files().end() ? known->second : LoadFile(source);
+/// A file that was replaced by another of the same name is another picture.
+QString Stamp(const QString& source) {
+  if (source.startsWith(QLatin1Char(':'))) return source;
+  const QFileInfo file(source);
+  return QStringLiteral("%1|%2|%3").arg(source).arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
 }
 
 void CheckSize(QSize size, const QString& source) {
@@ -68,22 +49,13 @@ QSize SizeOnDisplay(const QImageReader& reader) {
   return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90) ? size.transposed() : size;
 }
 
-/// Reads from memory; `file` must outlive the reader.
-struct MemoryReader {
-  explicit MemoryReader(const QByteArray& file) {
-    buffer.setData(file);
-    buffer.open(QIODevice::ReadOnly);
-    reader.setDevice(&buffer);
-    reader.setAutoTransform(true);
-  }
-  QBuffer buffer;
-  QImageReader reader;
-};
-
 QImage ReadImage(const QString& source) {
-  MemoryReader memory(FileOf(source));
-  CheckSize(memory.reader.size(), source);
-  QImage image = memory.reader.read();
+  if (!QFileInfo::exists(source)) Raise(errors::FileNotFound, source);
+  QImageReader reader(source);
+  reader.setAutoTransform(true);
+  reader.setDecideFormatFromContent(true);
+  CheckSize(reader.size(), source);
+  QImage image = reader.read();
   if (image.isNull()) Raise(errors::InvalidPicture, source);
   return image;
 }
@@ -100,22 +72,26 @@ QImage Rendered(const QString& source, QSize pixels) {
 
 /// A picture at the size in which it shows, made once.
 QImage Scaled(const QString& source, QSize pixels) {
-  const QString key = QStringLiteral("%1|%2x%3").arg(source).arg(pixels.width()).arg(pixels.height());
-  if (const QImage* known = ScaledImages().object(key)) return *known;
+  static QCache<QString, QImage> cache(CacheKilobytes);
+  const QString key = QStringLiteral("%1|%2x%3").arg(Stamp(source)).arg(pixels.width()).arg(pixels.height());
+  if (const QImage* known = cache.object(key)) return *known;
   QImage image = Rendered(source, pixels);
-  ScaledImages().insert(key, new QImage(image), image.sizeInBytes() / 1024 + 1);  // the cache owns it
+  cache.insert(key, new QImage(image), image.sizeInBytes() / 1024 + 1);  // the cache owns it
   return image;
 }
 
 }  // namespace
 
 Picture ReadPicture(const QString& source) {
+  if (!QFileInfo::exists(source)) Raise(errors::FileNotFound, source);
   QSize size;
   if (IsDrawing(source)) {
     size = Drawing(source).defaultSize();
   } else {
-    MemoryReader memory(LoadFile(source));
-    size = SizeOnDisplay(memory.reader);
+    QImageReader reader(source);
+    reader.setAutoTransform(true);
+    reader.setDecideFormatFromContent(true);
+    size = SizeOnDisplay(reader);
   }
   CheckSize(size, source);
   return {source, static_cast<float>(size.width()) * TwipsPerPixel,

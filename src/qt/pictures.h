@@ -9,9 +9,8 @@ class QRectF;
 
 namespace quillane {
 
-/// Loads the picture in a file or drawing, anew if it was known, and gives its natural size (a pixel is 15
-/// twips) from its header.  Throws 53 when there is none, 481 when it is none or has more than a hundred
-/// million pixels.
+/// The picture in a file or drawing with its natural size (a pixel is 15 twips), read from its header alone.
+/// Throws 53 when there is none, 481 when it cannot be read or has more than a hundred million pixels.
 Picture ReadPicture(const QString& source);
 /// Paints it into a rectangle of the painter's own units.  On a screen it is scaled once for each size; on
 /// paper drawings stay drawings.  Throws as ReadPicture does.

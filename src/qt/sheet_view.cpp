@@ -257,6 +257,7 @@ void SheetView::paintEvent(QPaintEvent* event) {
   PaintGround(painter, event->rect());
   painter.setTransform(PageTransform(), true);
   PaintControls(painter, event->rect());
+  PaintBand(painter);
 }
 
 void SheetView::PaintGround(QPainter& painter, const QRect& stale) const {
@@ -283,6 +284,19 @@ void SheetView::PaintControls(QPainter& painter, const QRect& stale) const {
     if (mode_ == DrawMode::Printing ||
         PixelRect(*control).adjusted(-slack, -slack, slack, slack).intersects(stale))
       PaintControl(painter, surface, *control);
+}
+
+/// The rectangle of a drag, over everything else: it belongs to the hand and not to the page.
+void SheetView::PaintBand(QPainter& painter) const {
+  const Page& front = CurrentPage();
+  if (front.shpSelect.empty() || !front.shpSelect[0].Visible() || mode_ == DrawMode::Printing) return;
+  const QRect place = PixelRect(front.shpSelect[0]);
+  QColor colour = palette().color(QPalette::Highlight);
+  painter.resetTransform();
+  painter.setPen(colour);
+  colour.setAlpha(40);
+  painter.fillRect(place, colour);
+  painter.drawRect(place.adjusted(0, 0, -1, -1));
 }
 
 void SheetView::PaintControl(QPainter& painter, Surface& surface, const Control& control) const {

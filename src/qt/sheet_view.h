@@ -104,6 +104,7 @@ class SheetView : public QWidget, private FormObserver {
   void PaintGround(QPainter& painter, const QRect& stale) const;
   void PaintControls(QPainter& painter, const QRect& stale) const;
   void PaintControl(QPainter& painter, Surface& surface, const Control& control) const;
+  void PaintBand(QPainter& painter) const;
 
   void ShowEditor();
   void PlaceEditor();

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QImage>
 #include <QRegularExpression>
 #include <cerrno>
 
@@ -160,21 +159,6 @@ TEST_F(Paper, RefusesAPictureThatIsTooLargeOrNone) {
   EXPECT_EQ(refusal(prefs.ProposalFolder + QStringLiteral("words.jpg")), errors::InvalidPicture);
   EXPECT_EQ(refusal(prefs.ProposalFolder + QStringLiteral("gone.jpg")), errors::FileNotFound);
   EXPECT_EQ(refusal(QStringLiteral(":/icons/no-tax.svg")), 0);
-}
-
-TEST_F(Paper, KeepsALogoWhoseFileWentAway) {
-  const QString path = prefs.ProposalFolder + QStringLiteral("logo.png");
-  QImage red(60, 30, QImage::Format_RGB32);
-  red.fill(Qt::red);
-  ASSERT_TRUE(red.save(path));
-  page(0).pic[0].SetPicture(ReadPicture(path));
-  page(0).pic[0].SetShown(true);
-  EXPECT_EQ(page(0).pic[0].GetPicture().width, 900);
-  RemoveFile(path);
-  Print(0);
-  EXPECT_TRUE(fresh.desk.said.isEmpty()) << fresh.desk.said.value(0).toStdString();
-  ASSERT_TRUE(red.scaled(20, 20).save(path));
-  EXPECT_EQ(ReadPicture(path).width, 300) << "another picture of the same name";
 }
 
 }  // namespace

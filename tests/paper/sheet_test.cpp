@@ -266,14 +266,6 @@ TEST_F(Sheet, OpensTheTextMenuWithTheRightButton) {
   EXPECT_EQ(asked, "frmP2.txt(36)");
 }
 
-TEST_F(Sheet, ClearsAMarkThatIsClicked) {
-  Control& mark = page(1).imgNoTax[35];
-  mark.SetShown(true);
-  Click(mark);
-  EXPECT_FALSE(mark.Visible());
-  EXPECT_TRUE(mark.Hidden());
-}
-
 TEST_F(Sheet, PassesTheEmptyPageAndLabelsOn) {
   std::vector<std::pair<PageMouseEvent::What, Control*>> told;
   view.pageMouse = [&](const PageMouseEvent& event) { told.emplace_back(event.what, event.control); };

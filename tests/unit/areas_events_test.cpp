@@ -233,43 +233,38 @@ TEST_F(Areas, TheStatusFollowsTheCaret) {
 }
 
 TEST_F(Areas, ShiftAndAnArrowOverASelectionIsTheMoveAndNothingElse) {
-  static int moved;
-  moved = 0;
-  upcalls().MoveContents = [](bool down) { moved += down ? 1 : -1; };
   SetFocus(At("frmP2.txt(5)"));
   typist.Key(keys::Down, true);
-  EXPECT_EQ(moved, 0);
-  EXPECT_EQ(FocusName(), "frmP2.txt(6)");
+  EXPECT_EQ(FocusName(), "frmP2.txt(6)") << "nothing is selected";
+  At("frmP2.txt(9)").SetText(QStringLiteral("Tent"));
   At("frmP2.txt(9)").SetBackColor(colors::Blue);
   editing.AreasSelected = true;
   typist.Key(keys::Down, true);
-  EXPECT_EQ(moved, 1);
-  EXPECT_EQ(FocusName(), "frmP2.txt(6)");
+  EXPECT_EQ(At("frmP2.txt(10)").Text(), "Tent");
+  EXPECT_EQ(At("frmP2.txt(9)").Text(), "");
 }
 
 TEST_F(Areas, ReleasingShiftEndsARunOfMoves) {
-  static int refired;
-  refired = 0;
-  upcalls().RefireChanges = [] { ++refired; };
   editing.MovingContents = true;
+  At("frmP2.txt(40)").SetText(QStringLiteral("12.00"));
   FormKeyUp(page(1), {keys::Down, true, false, false, QString()});
   EXPECT_TRUE(editing.MovingContents);
+  EXPECT_EQ(proposal.AreaAmount[1][40], 0.0F);
   FormKeyUp(page(1), {keys::Down, false, false, false, QString()});
   EXPECT_FALSE(editing.MovingContents);
-  FormKeyUp(page(1), {keys::Down, false, false, false, QString()});
-  EXPECT_EQ(refired, 1);
+  EXPECT_EQ(proposal.AreaAmount[1][40], 12.0F);
 }
 
 TEST_F(Areas, AFailureInAKeyIsReportedUnderItsPage) {
   QTemporaryDir home;
   prefs.ProgramFolder = home.path() + QLatin1Char('/');
-  upcalls().MoveContents = [](bool) { Raise(errors::Subscript); };
+  typist.desk.shown.append(QStringLiteral("frmFUT"));
+  upcalls().ShowTermLists = [] { Raise(errors::Subscript); };
   SetFocus(At("frmP4.txt(5)"));
-  At("frmP4.txt(5)").SetBackColor(colors::Blue);
-  editing.AreasSelected = true;
-  typist.Key(keys::Down, true);
+  typist.Key(keys::F5, false);
   EXPECT_TRUE(typist.desk.LastSaid().contains(QStringLiteral("An error occurred in Page 4 Keydown.")));
   EXPECT_EQ(FocusName(), "frmP4.txt(5)");
+  upcalls() = {};
   prefs.ProgramFolder.clear();
 }
 

@@ -73,19 +73,19 @@ mnuEdit|&Edit||
 mnuEditCtrl|&Edit Control||
  mnuEditTextBox|Text Box||
   mnuEditTextColumns|Add Columns|F8|
-  mnuEditTextBold|Make Bold||d
-  mnuEditTextNormal|Not Bold||d
+  mnuEditTextBold|Make Bold||
+  mnuEditTextNormal|Not Bold||
   mnuEditTextCenter|Centrally Align for Printing||hd
-  mnuEditTextSelLCase|Lower Case Selected Text||d
-  mnuEditTextSelPCase|Proper Case Selected Text||d
-  mnuEditTextSelUCase|Upper Case Selected Text||d
+  mnuEditTextSelLCase|Lower Case Selected Text||
+  mnuEditTextSelPCase|Proper Case Selected Text||
+  mnuEditTextSelUCase|Upper Case Selected Text||
   mnuEditTextAddFUT|Add to Frequent Terms|F9|d
   mnuEditTextEditFUT|Edit this Frequent Term||d
   mnuEditTextDeleteFUT|Remove from Frequent Terms||d
-  mnuEditTextDelete|Delete Contents|Shift+Del|d
+  mnuEditTextDelete|Delete Contents|Shift+Del|
   mnuEditTextUndo|Undo Delete|Ctrl+U|d
-  mnuEditTextCopy|Copy Selected Text Areas|F2|d
-  mnuEditTextCut|Cut Selected Text Areas|F3|d
+  mnuEditTextCopy|Copy Selected Text Areas|F2|
+  mnuEditTextCut|Cut Selected Text Areas|F3|
   mnuEditTextPaste|Paste Copied Text Areas|F4|d
   mnuEditTextMoveDown|Move Contents Down||d
   mnuEditTextMoveUp|Move Contents Up||d

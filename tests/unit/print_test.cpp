@@ -7,11 +7,9 @@
 #include <list>
 
 #include "fake_desk.h"
-#include "model/focus.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/upcalls.h"
-#include "pages/areas.h"
 #include "pages/defaults.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
@@ -168,21 +166,6 @@ TEST_F(Print, DropsTheDocumentThatIsCancelledAndPrintsAllNoMore) {
   PrintPageCommand(0);
   EXPECT_EQ(desk.documents.size(), 2U);
   EXPECT_TRUE(desk.documents.back().ended);
-}
-
-TEST_F(Print, AddsUpBeforeItPrints) {
-  InstallPageHandlers();
-  SetFocus(page(1).txt[35]);
-  page(1).txt[35].SetText(QStringLiteral("12.5"));
-  EXPECT_TRUE(TotalsAreStale());
-  PrintPageCommand(5);
-  EXPECT_TRUE(desk.documents.back().Find(QStringLiteral("12.50")));
-  EXPECT_FALSE(TotalsAreStale());
-  EXPECT_EQ(page(1).txt[35].Text(), QStringLiteral("12.50")) << "the amount that had the focus";
-  // What a move leaves behind shows in no red button.
-  proposal.AreaAmount[1][36] = 7.5F;
-  PrintPageCommand(5);
-  EXPECT_TRUE(desk.documents.back().Find(QStringLiteral("20.00")));
 }
 
 TEST_F(Print, ReportsFailuresAndGoesOn) {
