@@ -107,7 +107,9 @@ void UpdateEventNameLabels() {
     CaptionCentred(current, label, TitleOn(current));
     if (window != CopyOfPage6) RecordTitle(current, label);
   }
+  // Hidden and shown again, so that the frame's window looks at the caption too when the title is the same.
   Control& event = frame()["lblEvent"];
+  event.SetVisible(false);
   event.SetCaption(QStringLiteral("Title: ") + proposal.Title);
   event.SetVisible(true);
   frame().form.caption = FrameCaption();
