@@ -5,10 +5,7 @@
 #include "app/startup.h"
 #include "model/focus.h"
 #include "model/frame.h"
-#include "model/proposal.h"
 #include "model/report.h"
-#include "model/upcalls.h"
-#include "print/print.h"
 
 namespace quillane {
 
@@ -49,10 +46,6 @@ QString EntryBehind(const QString& control) {
   return {};
 }
 
-float PrintedWidth(Control& area, const QString& text) {
-  return PrinterTextWidth(area, text);
-}
-
 }  // namespace
 
 bool CommandExists(const QString& name) {
@@ -78,15 +71,10 @@ void BuildMenus() {
       frame()[QString::fromLatin1(shortcut.control)].SetEnabled(false);
 }
 
-void RefreshPrinterWidth() {
-  upcalls().PrinterWidth = printing.NoPrinter == 0 ? &PrintedWidth : nullptr;
-}
-
 void RunCommand(const QString& name) {
   const Command* command = ByName().value(name);
   if (!command || !command->run || !frame()[name].Enabled()) return;
   Guarded(command->name, command->run);
-  if (!editing.Quitting) RefreshPrinterWidth();
 }
 
 void FrameClicked(const QString& control) {

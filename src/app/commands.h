@@ -24,8 +24,6 @@ void BuildMenus();
 bool CommandExists(const QString& name);
 /// Enables or disables an entry by a rule; one whose command is not part of the program stays disabled.
 void EnableEntry(const QString& name, bool enabled);
-/// The text position in the status bar needs a printer: connects or hides its measure.
-void RefreshPrinterWidth();
 /// Runs an entry's procedure, if it is enabled.  Errors are caught here, once for each command.
 void RunCommand(const QString& name);
 /// A click on a tool bar image or button of the frame.

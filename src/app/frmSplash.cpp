@@ -37,6 +37,7 @@ QFont SansFont(double points) {
 QFont WordFont(int pixels) {
   QFont font(QStringLiteral("Times New Roman"));
   font.setPixelSize(pixels);
+  font.setItalic(true);  // the pages' own face, which is loaded in any case
   font.setLetterSpacing(QFont::PercentageSpacing, 104);
   return font;
 }

@@ -168,7 +168,7 @@ void TakeTermsWindowPlace() {
 void TakePrinter() {
   if (prefs.DefaultPrinter.isEmpty()) return;
   try {
-    if (desk().PrinterNames().contains(prefs.DefaultPrinter)) printing.CurrentPrinter = prefs.DefaultPrinter;
+    if (desk().HasPrinter(prefs.DefaultPrinter)) printing.CurrentPrinter = prefs.DefaultPrinter;
   } catch (const RuntimeError& error) {
     if (error.Number() != errors::Printer) throw;
     Tell(QStringLiteral("Printer error."));

@@ -47,7 +47,6 @@ QString SubtitleAtStart() {
 void ReadSettings() {
   if (!prefs.Read) GetUserPreferences();
   if (!printing.FontsLoaded) LoadTheFonts();
-  RefreshPrinterWidth();
   GetTaxRate();
 }
 

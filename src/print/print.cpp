@@ -153,11 +153,13 @@ void CancelPrint() {
 }
 
 void FindPrinter() {
-  const QString system = desk().DefaultPrinterName();
-  if (!prefs.DefaultPrinter.isEmpty() && desk().PrinterNames().contains(prefs.DefaultPrinter))
+  if (!prefs.DefaultPrinter.isEmpty() && desk().HasPrinter(prefs.DefaultPrinter)) {
     printing.CurrentPrinter = prefs.DefaultPrinter;
-  else  // the PDF file is a printer only for those who chose it
+  } else {
+    // The PDF file is a printer only for those who chose it.
+    const QString system = desk().DefaultPrinterName();
     printing.CurrentPrinter = system == PdfPrinter ? QString() : system;
+  }
   printing.NoPrinter = printing.CurrentPrinter.isEmpty() ? errors::Printer : 0;
   upcalls().PrinterWidth = printing.NoPrinter != 0 ? nullptr : WidthForStatus;
 }

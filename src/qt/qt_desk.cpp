@@ -13,6 +13,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "print/print.h"
 #include "qt/icons.h"
 #include "qt/pictures.h"
 #include "qt/printers.h"
@@ -160,6 +161,11 @@ bool QtDesk::OpenExternally(const QString& target) {
 
 QStringList QtDesk::PrinterNames() const {
   return printers::PrinterNames();
+}
+bool QtDesk::HasPrinter(const QString& name) const {
+  // The PDF file is always there.  Asking for the others loads the printing system, which costs what all the
+  // rest of a start costs.
+  return name == PdfPrinter || PrinterNames().contains(name);
 }
 QString QtDesk::DefaultPrinterName() const {
   return printers::DefaultPrinterName();

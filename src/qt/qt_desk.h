@@ -27,6 +27,7 @@ class QtDesk : public Desk {
   void SetClipboardText(const QString& text) override;
   bool OpenExternally(const QString& target) override;
   QStringList PrinterNames() const override;
+  bool HasPrinter(const QString& name) const override;
   QString DefaultPrinterName() const override;
   std::unique_ptr<Surface> BeginDocument(const QString& printer, const QString& title,
                                          const QString& pdfPath) override;

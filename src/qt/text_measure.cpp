@@ -20,6 +20,9 @@ QFont BuildFont(const Font& font) {
   built.setItalic(font.italic);
   built.setUnderline(font.underline);
   built.setKerning(false);
+  // A page holds characters of one code page, which its fonts have; looking for others costs a font search
+  // each.
+  built.setStyleStrategy(QFont::NoFontMerging);
   built.setHintingPreference(QFont::PreferNoHinting);
   return built;
 }

@@ -1,4 +1,5 @@
-// All that leaves the program goes through Desk, so that a test can answer questions, move the clock and count sheets.
+// All that leaves the program goes through Desk, so that a test can answer questions, move the clock and
+// count sheets.
 #pragma once
 #include <QDateTime>
 #include <QString>
@@ -30,10 +31,12 @@ class Desk {
   /// Opens a file or web page with the desktop's program.  False when nothing can.
   virtual bool OpenExternally(const QString& target) = 0;
   virtual QStringList PrinterNames() const = 0;
+  /// True for a name that PrinterNames has; asks the system only where that is needed.
+  virtual bool HasPrinter(const QString& name) const { return PrinterNames().contains(name); }
   /// The system's own default printer; empty where there is none.
   virtual QString DefaultPrinterName() const = 0;
-  /// Starts a document of one letter page on a printer of that name.  Throws 482.  For "PDF File", `pdfPath` is the
-  /// file to write.
+  /// Starts a document of one letter page on a printer of that name.  Throws 482.  For "PDF File", `pdfPath`
+  /// is the file to write.
   virtual std::unique_ptr<Surface> BeginDocument(const QString& printer, const QString& title,
                                                  const QString& pdfPath) = 0;
   virtual QStringList ScreenFonts() const = 0;
