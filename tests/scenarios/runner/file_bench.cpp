@@ -40,7 +40,8 @@ qint64 NumberAt(const Statement& statement, size_t index, const char* what) {
 /// The words from `from` on are bytes in hexadecimal, apart or joined.
 QByteArray HexWords(const Statement& statement, size_t from) {
   QByteArray hex;
-  for (size_t at = from; at < statement.Count(); ++at) hex += statement.At(at).toLatin1();
+  for (size_t at = from; at < statement.Count(); ++at)
+    hex += statement.At(at).remove(QLatin1Char(' ')).toLatin1();
   if (hex.isEmpty() || hex.size() % 2 != 0)
     throw BadStatement(QStringLiteral("bytes in hexadecimal: A5 20 ..."));
   return QByteArray::fromHex(hex);

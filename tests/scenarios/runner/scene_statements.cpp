@@ -1,6 +1,9 @@
 #include <QFile>
+#include <cerrno>
+#include <string_view>
 
 #include "failure.h"
+#include "platform/files.h"
 #include "statements.h"
 #include "values.h"
 
@@ -36,9 +39,11 @@ void Pref(World& world, const Statement& statement) {
 }
 
 void Clock(World& world, const Statement& statement) {
-  QString time = statement.Count() > 2 ? statement.At(2) : QStringLiteral("00:00");
+  const QStringList parts =
+      statement.Rest(1).replace(QLatin1Char('T'), QLatin1Char(' ')).split(QLatin1Char(' '));
+  QString time = parts.value(1, QStringLiteral("00:00"));
   if (time.size() == 4) time.prepend(QLatin1Char('0'));
-  const QDateTime now(QDate::fromString(statement.At(1), Qt::ISODate), QTime::fromString(time, Qt::ISODate));
+  const QDateTime now(QDate::fromString(parts.value(0), Qt::ISODate), QTime::fromString(time, Qt::ISODate));
   if (!now.isValid()) throw BadStatement(QStringLiteral("clock 2026-11-22 10:30"));
   world.desk.now = now;
 }
@@ -65,6 +70,17 @@ void Remove(World& world, const Statement& statement) {
   world.files.Remove(statement);
 }
 
+/// A disk without room: what writes fails, what reads does not.
+int NoRoom(const char* step, const QString&) {
+  const std::string_view at(step);
+  return at == "write" || at == "flush" ? ENOSPC : 0;
+}
+
+void Disk(World&, const Statement& statement) {
+  if (!statement.Is(1, "full") && !statement.Is(1, "ok")) throw BadStatement(QStringLiteral("disk full|ok"));
+  SetFaultHook(statement.Is(1, "full") ? NoRoom : nullptr);
+}
+
 }  // namespace
 
 const Handlers& SceneStatements() {
@@ -75,6 +91,7 @@ const Handlers& SceneStatements() {
       {"screen", Screen},
       {"printers", Printers},
       {"put", Put},
+      {"disk", Disk},
       {"remove", Remove},
       {"copy", [](World& world, const Statement& statement) { world.files.Copy(statement); }},
       {"readonly", [](World& world, const Statement& statement) { world.files.ReadOnly(statement); }},

@@ -52,7 +52,8 @@ QString WithoutForm(const QString& name) {
 }  // namespace
 
 World::World(const QString& scriptFolder, QString scriptName, Places places)
-    : desk(folder_.filePath(QStringLiteral("spool"))),
+    : folder_(QDir::temp().filePath(QStringLiteral("quillane-XXXXXX"))),
+      desk(folder_.filePath(QStringLiteral("spool"))),
       stage{desk, nullptr},
       hands(stage),
       files(folder_.filePath(QStringLiteral("quillane")), scriptFolder),
