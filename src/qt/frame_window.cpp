@@ -120,7 +120,8 @@ void FrameWindow::Follow(Control& control, QWidget& widget) {
 void FrameWindow::FollowColours(const Control& control, QWidget& widget) const {
   QPalette palette;
   if (control.GetKind() == Kind::Button && control.BackColor() != colors::ButtonFace) {
-    palette.setColor(QPalette::Button, ToQColor(control.BackColor()));
+    // Styles light a button from above; a shade darker it stays plainly its colour, and white reads on it.
+    palette.setColor(QPalette::Button, ToQColor(control.BackColor()).darker(130));
     palette.setColor(QPalette::ButtonText, Qt::white);
   } else if (control.ForeColor() != colors::Black) {
     palette.setColor(QPalette::WindowText, ToQColor(control.ForeColor()));

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QInputDialog>
@@ -34,6 +35,12 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   return QMessageBox::Ok;
 }
 
+/// Words say enough; the toolkit's own pictures on buttons differ from desktop to desktop.
+void LeaveButtonsPlain(const QDialog& window) {
+  for (QDialogButtonBox* box : window.findChildren<QDialogButtonBox*>())
+    for (QAbstractButton* button : box->buttons()) button->setIcon(QIcon());
+}
+
 QWidget* BoxParent(QWidget* frame) {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   return frame && frame->isVisible() ? frame : nullptr;
@@ -57,8 +64,7 @@ Answer QtDesk::MessageBox(const QString& text, const QString& title, Buttons but
     const int natural = label->fontMetrics().boundingRect({}, Qt::TextExpandTabs, text).width() + 8;
     label->setMinimumWidth(qMin(natural, widestText));
   }
-  // Words say enough; the toolkit's own pictures on buttons differ from desktop to desktop.
-  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
+  LeaveButtonsPlain(box);
   // The program's texts are plain; a "<" in a file's name must not become markup.
   box.setTextFormat(Qt::PlainText);
   switch (box.exec()) {
@@ -74,10 +80,20 @@ Answer QtDesk::MessageBox(const QString& text, const QString& title, Buttons but
 }
 
 QString QtDesk::InputBox(const QString& prompt, const QString& title, const QString& preset) {
-  bool accepted = false;
-  const QString typed =
-      QInputDialog::getText(BoxParent(frameWindow), title, prompt, QLineEdit::Normal, preset, &accepted);
-  return accepted ? typed : QString();
+  QInputDialog box(BoxParent(frameWindow));
+  box.setWindowTitle(title);
+  box.setTextValue(preset);
+  box.setLabelText(prompt);
+  constexpr int width = 480;  // prompts may be paragraphs, which wrap
+  box.setMinimumWidth(width);
+  if (auto* label = box.findChild<QLabel*>()) {
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setMinimumHeight(label->heightForWidth(width - 30));
+  }
+  box.setOkButtonText(box.okButtonText());  // the buttons are there only once they have been asked for
+  LeaveButtonsPlain(box);
+  return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
 void QtDesk::ShowWindow(const QString& name, Modality modality) {
@@ -94,6 +110,7 @@ void QtDesk::ShowWindow(const QString& name, Modality modality) {
   std::unique_ptr<QDialog> made = MakeWindow(name, BoxParent(frameWindow));
   if (!made) return;
   QDialog& window = *made;
+  LeaveButtonsPlain(window);
   opened_.push_back({name, std::move(made)});
   if (modality == Modality::Modal) {
     RunModal(window);
