@@ -4,9 +4,11 @@
 
 namespace quillane {
 
-/// Fills `folder` (the program's folder) from the installed `data` on first start; never touches a file that is there.
+/// Fills `folder` (the program's folder) from the installed `data` on first start; never touches a file that
+/// is there.
 void FillProgramFolder(const QString& folder, const QString& data);
-/// The entry point's questions: the first-instance message, the font test.  False when the user chose to leave.
+/// The entry point's questions: the first-instance message, the font test.  False when the user chose to
+/// leave.
 bool Main();
 /// The twenty steps of the main window's load; once a run.
 void LoadMainFrame();

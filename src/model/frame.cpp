@@ -25,16 +25,23 @@ Frame::Frame() {
   struct Item {
     const char *name, *text;
   };
-  constexpr Item images[] = {{"imgNew", "Create New File"},   {"imgOpen", "Open existing file"},
-                             {"imgFootNotes", "Show Footnotes"}, {"imgSave", "Save Current File"},
-                             {"imgSaveAs", "Save File as..."},  {"imgPrint", "Print All Pages"},
-                             {"imgSearch", "Search for..."},    {"imgSpellCheck", "Check Spelling"},
+  constexpr Item images[] = {{"imgNew", "Create New File"},
+                             {"imgOpen", "Open existing file"},
+                             {"imgFootNotes", "Show Footnotes"},
+                             {"imgSave", "Save Current File"},
+                             {"imgSaveAs", "Save File as..."},
+                             {"imgPrint", "Print All Pages"},
+                             {"imgSearch", "Search for..."},
+                             {"imgSpellCheck", "Check Spelling"},
                              {"imgTime", ""}};
-  for (const Item& image : images) Add(Kind::Image, image.name, "").SetToolTip(QString::fromLatin1(image.text));
-  constexpr Item pages[] = {{"imgPage(0)", "Page 1"}, {"imgPage(1)", "Page 2"}, {"imgPage(2)", "Page 3"},
-                            {"imgPage(3)", "Page 4"}, {"imgPage(4)", "Page 5"},
-                            {"imgPage(5)", "Totals and Contract Page"}, {"imgPage(6)", "Page 6 Copy"}};
-  for (const Item& image : pages) Add(Kind::Image, image.name, "").SetToolTip(QString::fromLatin1(image.text));
+  for (const Item& image : images)
+    Add(Kind::Image, image.name, "").SetToolTip(QString::fromLatin1(image.text));
+  constexpr Item pages[] = {{"imgPage(0)", "Page 1"},     {"imgPage(1)", "Page 2"},
+                            {"imgPage(2)", "Page 3"},     {"imgPage(3)", "Page 4"},
+                            {"imgPage(4)", "Page 5"},     {"imgPage(5)", "Totals and Contract Page"},
+                            {"imgPage(6)", "Page 6 Copy"}};
+  for (const Item& image : pages)
+    Add(Kind::Image, image.name, "").SetToolTip(QString::fromLatin1(image.text));
   struct ButtonItem {
     const char *name, *caption, *tip;
   };
@@ -57,7 +64,9 @@ Control& Frame::Add(Kind kind, const QString& name, const QString& caption) {
   return added;
 }
 
-Control& Frame::AddMenu(const QString& name, const QString& caption) { return Add(Kind::Menu, name, caption); }
+Control& Frame::AddMenu(const QString& name, const QString& caption) {
+  return Add(Kind::Menu, name, caption);
+}
 
 Control* Frame::Find(const QString& name) {
   const auto found = controls_.find(name);
@@ -74,7 +83,9 @@ Frame& frame() {
   return *TheFrame();
 }
 
-void CreateFrame() { TheFrame() = std::make_unique<Frame>(); }
+void CreateFrame() {
+  TheFrame() = std::make_unique<Frame>();
+}
 
 void EnableMenu(const char* name, bool enabled) {
   if (Control* entry = frame().Find(QString::fromLatin1(name))) entry->SetEnabled(enabled);
@@ -83,8 +94,14 @@ void CheckMenu(const char* name, bool checked) {
   if (Control* entry = frame().Find(QString::fromLatin1(name))) entry->SetChecked(checked);
 }
 
-void MarkTotalsStale() { frame()["cmdReCalc"].SetBackColor(colors::Red); }
-void MarkTotalsFresh() { frame()["cmdReCalc"].SetBackColor(colors::ButtonFace); }
-bool TotalsAreStale() { return frame()["cmdReCalc"].BackColor() == colors::Red; }
+void MarkTotalsStale() {
+  frame()["cmdReCalc"].SetBackColor(colors::Red);
+}
+void MarkTotalsFresh() {
+  frame()["cmdReCalc"].SetBackColor(colors::ButtonFace);
+}
+bool TotalsAreStale() {
+  return frame()["cmdReCalc"].BackColor() == colors::Red;
+}
 
 }  // namespace quillane

@@ -18,7 +18,7 @@ AreaPlace FirstPageField(int area) {
   if (area == 0) return {720, 3420, 2520, "Date.025"};
   if (area == 1) return {9000, 3420, 2520, "Date.025"};
   if (area <= 13) {
-    const int field = area - 2;            // bride left, bride right, groom left, groom right: three each
+    const int field = area - 2;  // bride left, bride right, groom left, groom right: three each
     const bool right = (field / 3) % 2 == 1;
     return {right ? 7740.0F : 2340.0F, NameTop[field / 6 * 3 + field % 3], 3600, "Name.060"};
   }
@@ -89,8 +89,8 @@ void PlaceColumn(Control& control, const Control& row, float left, float width, 
 }  // namespace
 
 Page::Page(int windowIndex) : window(windowIndex), pageIndex(windowIndex == CopyOfPage6 ? 5 : windowIndex) {
-  form.name = windowIndex == CopyOfPage6 ? QStringLiteral("frmP6_1")
-                                         : QStringLiteral("frmP%1").arg(windowIndex + 1);
+  form.name =
+      windowIndex == CopyOfPage6 ? QStringLiteral("frmP6_1") : QStringLiteral("frmP%1").arg(windowIndex + 1);
   const bool first = window == 0;
   const int areas = first ? 36 : window <= 4 ? 70 : 6;
   txt = MakeArray(form, Kind::TextBox, "txt", areas);
@@ -153,13 +153,18 @@ Control* FindPageControl(const QString& fullName) {
   for (int i = 0; i < PageCount; ++i) {
     if (!fullName.startsWith(page(i).form.name + QLatin1Char('.'))) continue;
     for (Control* control : page(i).Controls())
-      if (control->FullName() == fullName || (fullName.endsWith(QLatin1String(".pic")) && control->Array() == QLatin1String("pic")))
+      if (control->FullName() == fullName ||
+          (fullName.endsWith(QLatin1String(".pic")) && control->Array() == QLatin1String("pic")))
         return control;
   }
   return nullptr;
 }
 
-int AreaLimit(const Control& area) { return area.Tag().right(3).toInt(); }
-QString AreaKind(const Control& area) { return area.Tag().left(4); }
+int AreaLimit(const Control& area) {
+  return area.Tag().right(3).toInt();
+}
+QString AreaKind(const Control& area) {
+  return area.Tag().left(4);
+}
 
 }  // namespace quillane

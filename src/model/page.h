@@ -16,7 +16,7 @@ inline constexpr float Width = 12240;   ///< twips
 inline constexpr float Height = 15840;  ///< twips
 inline constexpr float Centre = 6120;
 inline constexpr float AreaHeight = 255;
-inline constexpr float PlainLeft = 720, PlainWidth = 9000;      ///< a row without columns
+inline constexpr float PlainLeft = 720, PlainWidth = 9000;       ///< a row without columns
 inline constexpr float ColumnsLeft = 1260, ColumnsWidth = 6630;  ///< a row with columns
 }  // namespace sheet
 
@@ -31,8 +31,8 @@ class Page {
   int pageIndex;  ///< 0 to 5: the index in every array; frmP6_1 has that of frmP6
   QString tag;    ///< "frmP2.69"
 
-  // Control arrays, indexed as their names are.  On pages without columns the four column arrays are empty; on frmP1
-  // their elements 0 to 19 exist and are never shown.
+  // Control arrays, indexed as their names are.  On pages without columns the four column arrays are empty;
+  // on frmP1 their elements 0 to 19 exist and are never shown.
   std::vector<Control> txt, imgNoTax, lbl, lne, txtQty, txtAmt, lblAt, lblEach;
   std::vector<Control> pic;        ///< one element on frmP1, none elsewhere
   std::vector<Control> shpSelect;  ///< one element on pages with a selection
@@ -75,7 +75,9 @@ Control* FindPageControl(const QString& fullName);
 /// The limit and the kind that an area's Tag carries: "Push.120" gives 120 and "Push".
 int AreaLimit(const Control& area);
 QString AreaKind(const Control& area);
-inline bool IsNumericArea(const Control& area) { return area.Tag().endsWith(QLatin1String("020")); }
+inline bool IsNumericArea(const Control& area) {
+  return area.Tag().endsWith(QLatin1String("020"));
+}
 
 /// Builds the seven pages anew (a test's fresh start); controls stand at their places with their Tags.
 void CreatePages();

@@ -6,7 +6,9 @@
 
 namespace quillane {
 
-QString BlankSlot() { return QString(120, QLatin1Char(' ')); }
+QString BlankSlot() {
+  return QString(120, QLatin1Char(' '));
+}
 
 namespace {
 void BlankTexts(PageTexts& texts) {

@@ -17,7 +17,7 @@ inline constexpr int LabelsPerPage = 65;
 
 /// What an area carries beside its text.
 struct TextAreaRecord {
-  bool PropChanged = false;    ///< bold or exemption changed by hand; cleared once the property file is written
+  bool PropChanged = false;  ///< bold or exemption changed by hand; cleared once the property file is written
   bool FontBold = false;
   QString Text;                ///< fixed text of an area that is not numeric
   bool HasFormatText = false;  ///< the format layer fixes this area's text
@@ -57,7 +57,9 @@ using LabelTable = std::array<std::array<LabelRecord, LabelsPerPage>, IndexedPag
 using PageTexts = std::array<std::vector<QString>, IndexedPages>;
 
 /// How many areas a page has, by page index 0 to 5.
-constexpr int AreaCount(int pageIndex) { return pageIndex == 0 ? 36 : pageIndex == 5 ? 6 : 70; }
+constexpr int AreaCount(int pageIndex) {
+  return pageIndex == 0 ? 36 : pageIndex == 5 ? 6 : 70;
+}
 /// A slot before the first text is written, as the file's fixed fields are.
 QString BlankSlot();
 
@@ -90,13 +92,14 @@ struct ProposalState {
   QString CurrentFolder;  ///< the folder of the open file
   bool FileIsNamed = false, SavingAs = false, SaveCancelled = false, BackupInProgress = false;
   bool OpenedFromBackup = false;
-  QString Mode;      ///< "Event", "Wedding", or empty
-  QString Title;     ///< "Proposal for Emily Carter"
-  QString SubTitle;  ///< "Alder Events - Event Proposal - "
+  QString Mode;              ///< "Event", "Wedding", or empty
+  QString Title;             ///< "Proposal for Emily Carter"
+  QString SubTitle;          ///< "Alder Events - Event Proposal - "
   bool TitleByHand = false;  ///< a title made by hand stays until New or Open
 
   QStringList PropertyLines;
-  QStringList SavedPropertyLines;  ///< as last written or read: a difference from what would be written is a change
+  QStringList
+      SavedPropertyLines;  ///< as last written or read: a difference from what would be written is a change
 
   // The logo of the open proposal.
   QString LogoPath;
@@ -116,10 +119,10 @@ struct FormatState {
 };
 
 struct EditingState {
-  int CurrentPage = 0;         ///< page index of the last area to have the focus
+  int CurrentPage = 0;          ///< page index of the last area to have the focus
   Page* CurrentForm = nullptr;  ///< frmP1 to frmP6, never frmP6_1
-  int FrontWindow = 0;         ///< the page in front, 0 to 6
-  QString CurrentFormName;     ///< "frmP1" to "frmP6", or "frmP6_1"
+  int FrontWindow = 0;          ///< the page in front, 0 to 6
+  QString CurrentFormName;      ///< "frmP1" to "frmP6", or "frmP6_1"
   int CurrentArea = 0;
   QString CurrentText, CurrentAreaType, CurrentAreaLimit;
   float CurrentAreaWidth = 0;
@@ -133,10 +136,11 @@ struct EditingState {
   bool SuppressAreaCaption = false, AutoCompleting = false, DateWarningGiven = false;
   bool Typing = false;     ///< the next change of the area with the focus is a character that was typed
   bool Cascading = false;  ///< words are being pushed: the areas that they reach push in their turn
-  int SelectedTextStart = 0, SelectedTextLength = 0;  ///< the character selection when the text menu's states were set
-  int MoveRow = -1;           ///< the row last written by a move
+  int SelectedTextStart = 0,
+      SelectedTextLength = 0;  ///< the character selection when the text menu's states were set
+  int MoveRow = -1;            ///< the row last written by a move
   bool UndoAvailable = false;  ///< a delete may be undone
-  Control* Focus = nullptr;  ///< the control that has the focus, a page's or the frame's
+  Control* Focus = nullptr;    ///< the control that has the focus, a page's or the frame's
 
   // Guards.  Set them through Scoped, so that they return to what they were on every way out.
   bool RecalcPending = false, AreasSelected = false, MovingContents = false, OpeningFile = false;
@@ -171,10 +175,11 @@ struct TaxState {
 struct Preferences {
   QStringList PrefLines;
   bool Reading = false, Read = false;
-  bool SessionCopiesTaken = false;  ///< what a session changes on its own has been copied; later readings leave it
+  bool SessionCopiesTaken =
+      false;  ///< what a session changes on its own has been copied; later readings leave it
   bool FirstInstance = false;
-  QString SharedDirectory, CompanyName, CompanyAddress1, CompanyAddress2, CompanyCity, CompanyPhone, CompanyFax,
-      CompanyWebsite, CompanyEmail, PageTitle, LogoFile;
+  QString SharedDirectory, CompanyName, CompanyAddress1, CompanyAddress2, CompanyCity, CompanyPhone,
+      CompanyFax, CompanyWebsite, CompanyEmail, PageTitle, LogoFile;
   float LogoLeft = 0, LogoTop = 0;
   bool AutoCompleteWord = false;
   int AutoStartPosition = 0;

@@ -8,14 +8,16 @@
 
 namespace quillane {
 
-/// Shows the error under the title "Program Error" and appends it to Error.log in the program's folder.  The log wraps
-/// to its start once it is 32767 bytes long; a log that cannot be written loses the report and nothing else.
+/// Shows the error under the title "Program Error" and appends it to Error.log in the program's folder.  The
+/// log wraps to its start once it is 32767 bytes long; a log that cannot be written loses the report and
+/// nothing else.
 void ReportProgramError(const QString& procedure, const RuntimeError& error);
 
 /// Shows the three-line box of a command that has its own words: `firstLine`, the number, the description.
 void ReportInOwnWords(const QString& firstLine, const RuntimeError& error);
 
-/// The common error route: runs `body`; an error goes to the reporter under `procedure`.  True when there was none.
+/// The common error route: runs `body`; an error goes to the reporter under `procedure`.  True when there was
+/// none.
 template <class Body>
 bool Guarded(const char* procedure, Body&& body) {
   try {

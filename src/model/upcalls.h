@@ -8,23 +8,29 @@ namespace quillane {
 class Control;
 
 struct Upcalls {
-  void (*UpdatePageButtons)(int window) = [](int) {};           ///< app: bring a page to the front
-  void (*BackupThisFile)() = [] {};                             ///< files: the copy at the 20th key
-  void (*SaveEventFile)() = [] {};                              ///< files
-  QStringList (*PropertyLinesNow)() = [] { return QStringList(); };  ///< files: the lines that a save would write
-  void (*SaveTaxRate)() = [] {};                                ///< files: writes and announces the new rate
-  void (*ResumeEditing)() = [] {};                              ///< print: leave the preview of the page in front
-  void (*ReAdjustScrollBar)(int window) = [](int) {};           ///< app
-  void (*FrequentTermsHook)(Control& area) = [](Control&) {};   ///< tools: a key was typed while auto-complete is on
-  bool (*AcceptGuess)(Control& area, int key, bool shift) = [](Control&, int, bool) { return false; };  ///< tools
+  void (*UpdatePageButtons)(int window) = [](int) {};  ///< app: bring a page to the front
+  void (*BackupThisFile)() = [] {};                    ///< files: the copy at the 20th key
+  void (*SaveEventFile)() = [] {};                     ///< files
+  QStringList (*PropertyLinesNow)() = [] {
+    return QStringList();
+  };                                                   ///< files: the lines that a save would write
+  void (*SaveTaxRate)() = [] {};                       ///< files: writes and announces the new rate
+  void (*ResumeEditing)() = [] {};                     ///< print: leave the preview of the page in front
+  void (*ReAdjustScrollBar)(int window) = [](int) {};  ///< app
+  void (*FrequentTermsHook)(Control& area) = [](Control&) {
+  };  ///< tools: a key was typed while auto-complete is on
+  bool (*AcceptGuess)(Control& area, int key, bool shift) = [](Control&, int, bool) {
+    return false;
+  };  ///< tools
   /// app: whether a menu entry has a procedure
   bool (*CommandExists)(const QString& entry) = [](const QString&) { return true; };
-  void (*ShowTermLists)() = [] {};              ///< tools: F5, the list of frequent-terms files
-  void (*NextTermList)() = [] {};               ///< tools: F6, the next file of that list
-  float (*PrinterWidth)(Control& area, const QString& text) = nullptr;  ///< print: inches; null without a printer
-  void (*OpenFormat)() = [] {};                                 ///< files: apply the open format to blank pages
-  void (*ReadTerms)() = [] {};                                  ///< tools: read terms.FileName
-  void (*PopUpTextMenu)(Control& area) = [](Control&) {};       ///< qt: mnuEditTextBox at the pointer
+  void (*ShowTermLists)() = [] {};  ///< tools: F5, the list of frequent-terms files
+  void (*NextTermList)() = [] {};   ///< tools: F6, the next file of that list
+  float (*PrinterWidth)(Control& area,
+                        const QString& text) = nullptr;    ///< print: inches; null without a printer
+  void (*OpenFormat)() = [] {};                            ///< files: apply the open format to blank pages
+  void (*ReadTerms)() = [] {};                             ///< tools: read terms.FileName
+  void (*PopUpTextMenu)(Control& area) = [](Control&) {};  ///< qt: mnuEditTextBox at the pointer
   void (*SetEditMenuState)(const QString& state) = [](const QString&) {};  ///< pages: the text menu's states
 };
 Upcalls& upcalls();

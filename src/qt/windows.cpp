@@ -11,7 +11,9 @@ std::map<QString, WindowMaker>& Makers() {
 }
 }  // namespace
 
-void RegisterWindow(const QString& name, WindowMaker maker) { Makers()[name] = std::move(maker); }
+void RegisterWindow(const QString& name, WindowMaker maker) {
+  Makers()[name] = std::move(maker);
+}
 
 std::unique_ptr<QDialog> MakeWindow(const QString& name, QWidget* parent) {
   const auto found = Makers().find(name);

@@ -35,14 +35,28 @@ float Control::Width() const {
   return labelWidth_;
 }
 
-float Control::Height() const { return kind_ == Kind::Label ? MetricsOf(font_).height : height_; }
+float Control::Height() const {
+  return kind_ == Kind::Label ? MetricsOf(font_).height : height_;
+}
 
-void Control::SetLeft(float value) { Change(left_, value, Aspect::Geometry); }
-void Control::SetTop(float value) { Change(top_, value, Aspect::Geometry); }
-void Control::SetWidth(float value) { Change(width_, value, Aspect::Geometry); }
-void Control::SetHeight(float value) { Change(height_, value, Aspect::Geometry); }
-void Control::SetVisible(bool value) { Change(visible_, value, Aspect::Visible); }
-void Control::SetTag(const QString& value) { Change(tag_, value, Aspect::State); }
+void Control::SetLeft(float value) {
+  Change(left_, value, Aspect::Geometry);
+}
+void Control::SetTop(float value) {
+  Change(top_, value, Aspect::Geometry);
+}
+void Control::SetWidth(float value) {
+  Change(width_, value, Aspect::Geometry);
+}
+void Control::SetHeight(float value) {
+  Change(height_, value, Aspect::Geometry);
+}
+void Control::SetVisible(bool value) {
+  Change(visible_, value, Aspect::Visible);
+}
+void Control::SetTag(const QString& value) {
+  Change(tag_, value, Aspect::State);
+}
 
 void Control::SetShown(bool shown) {
   SetTag(shown ? QString() : QStringLiteral("Hide"));
@@ -66,9 +80,15 @@ void Control::Typed(const QString& text, int caret) {
   if (form_->textChanged) form_->textChanged(*this);
 }
 
-void Control::SetCaption(const QString& value) { Change(caption_, value, Aspect::Caption); }
-void Control::SetToolTip(const QString& value) { Change(toolTip_, value, Aspect::State); }
-void Control::SetFont(const Font& value) { Change(font_, value, Aspect::Font); }
+void Control::SetCaption(const QString& value) {
+  Change(caption_, value, Aspect::Caption);
+}
+void Control::SetToolTip(const QString& value) {
+  Change(toolTip_, value, Aspect::State);
+}
+void Control::SetFont(const Font& value) {
+  Change(font_, value, Aspect::Font);
+}
 
 void Control::SetFontName(const QString& value) {
   Font font = font_;
@@ -96,13 +116,25 @@ void Control::SetFontUnderline(bool value) {
   SetFont(font);
 }
 
-void Control::SetForeColor(Color value) { Change(foreColor_, value, Aspect::Colour); }
-void Control::SetBackColor(Color value) { Change(backColor_, value, Aspect::Colour); }
-void Control::SetPicture(const Picture& value) { Change(picture_, value, Aspect::Picture); }
-void Control::SetEnabled(bool value) { Change(enabled_, value, Aspect::State); }
-void Control::SetChecked(bool value) { Change(checked_, value, Aspect::State); }
+void Control::SetForeColor(Color value) {
+  Change(foreColor_, value, Aspect::Colour);
+}
+void Control::SetBackColor(Color value) {
+  Change(backColor_, value, Aspect::Colour);
+}
+void Control::SetPicture(const Picture& value) {
+  Change(picture_, value, Aspect::Picture);
+}
+void Control::SetEnabled(bool value) {
+  Change(enabled_, value, Aspect::State);
+}
+void Control::SetChecked(bool value) {
+  Change(checked_, value, Aspect::State);
+}
 
-void Control::SetSelStart(int value) { SetSelection(value, 0); }
+void Control::SetSelStart(int value) {
+  SetSelection(value, 0);
+}
 
 void Control::SetSelection(int start, int length) {
   const auto size = static_cast<int>(text_.size());

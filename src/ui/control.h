@@ -1,5 +1,5 @@
-// Controls as plain objects.  A page's areas, labels and marks and the frame's own buttons and labels are all Controls;
-// the windows draw them and never keep state of their own.
+// Controls as plain objects.  A page's areas, labels and marks and the frame's own buttons and labels are all
+// Controls; the windows draw them and never keep state of their own.
 #pragma once
 #include <QString>
 #include <functional>
@@ -15,8 +15,8 @@ enum class Aspect { Geometry, Visible, Text, Caption, Colour, Font, Caret, Pictu
 
 class Control;
 
-/// Whoever shows a form is told of each change after it has happened; Geometry, Visible, Text, Caption and Font are
-/// also told before, so that the old rectangle is known to be stale.
+/// Whoever shows a form is told of each change after it has happened; Geometry, Visible, Text, Caption and
+/// Font are also told before, so that the old rectangle is known to be stale.
 class FormObserver {
  public:
   virtual ~FormObserver() = default;
@@ -26,10 +26,10 @@ class FormObserver {
 
 /// What the controls of one window share.
 struct Form {
-  QString name;                                        ///< "frmP2", "frmMain"
+  QString name;  ///< "frmP2", "frmMain"
   QString caption;
-  FormObserver* observer = nullptr;                    ///< not owned
-  std::function<void(Control&)> textChanged;           ///< runs after a text box's text has changed
+  FormObserver* observer = nullptr;           ///< not owned
+  std::function<void(Control&)> textChanged;  ///< runs after a text box's text has changed
 };
 
 class Control {
@@ -43,7 +43,8 @@ class Control {
   int Index() const { return index_; }
   QString FullName() const;  ///< "frmP2.txt(35)", "frmMain.cmdReCalc"
 
-  // Places and sizes are twips.  A label is as wide as its caption; a line goes from (Left, Top) over (Width, Height).
+  // Places and sizes are twips.  A label is as wide as its caption; a line goes from (Left, Top) over (Width,
+  // Height).
   float Left() const { return left_; }
   float Top() const { return top_; }
   float Width() const;
@@ -57,7 +58,8 @@ class Control {
   void SetVisible(bool value);
   const QString& Tag() const { return tag_; }
   void SetTag(const QString& value);
-  /// Shown and Tag together: a control that does not show carries the Tag "Hide", so that it does not print either.
+  /// Shown and Tag together: a control that does not show carries the Tag "Hide", so that it does not print
+  /// either.
   void SetShown(bool shown);
   bool Hidden() const { return tag_ == QLatin1String("Hide"); }
 

@@ -7,7 +7,9 @@ namespace {
 float SimpleWidth(const Font& font, const QString& text) {
   return static_cast<float>(text.size()) * font.size * 10.0F;
 }
-FontMetrics SimpleMetrics(const Font& font) { return {font.size * 18.0F, font.size * 23.0F}; }
+FontMetrics SimpleMetrics(const Font& font) {
+  return {font.size * 18.0F, font.size * 23.0F};
+}
 
 TextMeasure& Measure() {
   static TextMeasure measure{SimpleWidth, SimpleMetrics};
@@ -15,8 +17,14 @@ TextMeasure& Measure() {
 }
 }  // namespace
 
-float TextWidth(const Font& font, const QString& text) { return Measure().width(font, text); }
-FontMetrics MetricsOf(const Font& font) { return Measure().metrics(font); }
-void SetTextMeasure(TextMeasure measure) { Measure() = std::move(measure); }
+float TextWidth(const Font& font, const QString& text) {
+  return Measure().width(font, text);
+}
+FontMetrics MetricsOf(const Font& font) {
+  return Measure().metrics(font);
+}
+void SetTextMeasure(TextMeasure measure) {
+  Measure() = std::move(measure);
+}
 
 }  // namespace quillane

@@ -15,9 +15,9 @@ class FakeDesk : public Desk {
  public:
   FakeDesk() { SetDesk(this); }
 
-  QQueue<Answer> answers;        ///< for questions; when empty, Cancel or No
-  QQueue<QString> inputs;        ///< for input boxes; when empty, Cancel
-  QList<Said> said;              ///< every box, questions and input prompts included
+  QQueue<Answer> answers;  ///< for questions; when empty, Cancel or No
+  QQueue<QString> inputs;  ///< for input boxes; when empty, Cancel
+  QList<Said> said;        ///< every box, questions and input prompts included
   QString clipboard;
   QStringList printers, shown, opened;
   QDateTime now{QDate(2026, 11, 22), QTime(10, 30)};
@@ -43,8 +43,12 @@ class FakeDesk : public Desk {
   }
   QStringList PrinterNames() const override { return printers; }
   QString DefaultPrinterName() const override { return printers.value(0); }
-  std::unique_ptr<Surface> BeginDocument(const QString&, const QString&, const QString&) override { return nullptr; }
-  QStringList ScreenFonts() const override { return {QStringLiteral("Arial"), QStringLiteral("Times New Roman")}; }
+  std::unique_ptr<Surface> BeginDocument(const QString&, const QString&, const QString&) override {
+    return nullptr;
+  }
+  QStringList ScreenFonts() const override {
+    return {QStringLiteral("Arial"), QStringLiteral("Times New Roman")};
+  }
   Picture LoadPicture(const QString& path) override { return {path, 1500, 1500}; }
   int ScreenWidth() const override { return 1280; }
   int ScreenHeight() const override { return 1024; }
