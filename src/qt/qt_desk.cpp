@@ -84,12 +84,11 @@ QString QtDesk::InputBox(const QString& prompt, const QString& title, const QStr
   box.setWindowTitle(title);
   box.setTextValue(preset);
   box.setLabelText(prompt);
-  constexpr int width = 480;  // prompts may be paragraphs, which wrap
-  box.setMinimumWidth(width);
   if (auto* label = box.findChild<QLabel*>()) {
+    constexpr int width = 450;  // prompts may be paragraphs, which wrap
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    label->setMinimumHeight(label->heightForWidth(width - 30));
+    label->setMinimumSize(width, label->heightForWidth(width));
   }
   box.setOkButtonText(box.okButtonText());  // the buttons are there only once they have been asked for
   LeaveButtonsPlain(box);
