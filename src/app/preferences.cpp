@@ -203,6 +203,16 @@ void SeedSharedFolder() {
     if (FileExists(LocalFolder(), from)) CopyFileOver(LocalFolder() + from, prefs.ProposalFolder + to);
 }
 
+/// A folder that cannot be looked into is told about and counts as one without the sub-folder.
+bool HasSubFolder(const QString& parent, const QString& name) {
+  try {
+    return FolderExists(parent, name);
+  } catch (const RuntimeError& error) {
+    ReportInOwnWords(QStringLiteral("Error encountered during Events Folder check."), error);
+    return false;
+  }
+}
+
 bool AskForSharedFolder() {
   return AskYesNo(QStringLiteral("Could not find the folder \"Wedding Proposals\" on the shared\n"
                                  "network drive. This is the network folder where all the Proposal\n"
@@ -212,8 +222,8 @@ bool AskForSharedFolder() {
 
 void WorkOutFolders() {
   if (prefs.SharedDirectory.isEmpty()) return UseLocalFolder();
-  const QString root = WithSeparator(ResolvePath(prefs.SharedDirectory));
-  if (FolderExists(root, ProposalsName())) return SetProposalFolder(root + ProposalsName());
+  const QString root = WithSeparator(prefs.SharedDirectory);
+  if (HasSubFolder(root, ProposalsName())) return SetProposalFolder(root + ProposalsName());
   if (!AskForSharedFolder()) return UseLocalFolder();
   MakeFolder(root + ProposalsName());
   SetProposalFolder(root + ProposalsName());
@@ -222,7 +232,7 @@ void WorkOutFolders() {
 }
 
 void MakeBackupFolder() {
-  if (!FolderExists(prefs.ProposalFolder, QStringLiteral("Backup"))) MakeFolder(prefs.BackupFolder);
+  if (!HasSubFolder(prefs.ProposalFolder, QStringLiteral("Backup"))) MakeFolder(prefs.BackupFolder);
 }
 
 void TakeTermsForSession() {

@@ -257,14 +257,27 @@ TEST_F(PreferencesFile, AShareWithoutItsFolderIsAskedAbout) {
   EXPECT_EQ(Get("drives/F/Wedding Proposals/SaleTax.txt"), "7.50 ");
 }
 
-TEST_F(PreferencesFile, AShareThatIsNotThereIsReportedAndTheLocalFolderServes) {
+TEST_F(PreferencesFile, AShareThatIsNotThereIsToldAskedAboutAndTheLocalFolderServes) {
   Replace("Shared Directory:", "Shared Directory:F:\\");
   GetUserPreferences();
-  ASSERT_EQ(desk.said.size(), 1);
+  ASSERT_EQ(desk.said.size(), 2);
   EXPECT_TRUE(
-      desk.LastSaid().contains("Error Number: 76\nError Description: Path not found: there is no drive F:"));
+      desk.said[0].text.startsWith("Error encountered during Events Folder check.\nError Number: 76\n"
+                                   "Error Description: Path not found: there is no drive F:"));
+  EXPECT_EQ(desk.said[1].title, "Wedding Proposals Folder Not Found");
+  EXPECT_TRUE(prefs.Read);
   EXPECT_EQ(prefs.ProposalFolder, Path("Wedding Proposals/"));
+  EXPECT_EQ(proposal.CurrentFolder, prefs.ProposalFolder);
   EXPECT_EQ(prefs.CompanyName, "Alder Events");
+}
+
+TEST_F(PreferencesFile, AFolderCannotBeMadeOnAShareThatIsNotThere) {
+  Replace("Shared Directory:", "Shared Directory:F:\\");
+  desk.answers.enqueue(Answer::Yes);
+  GetUserPreferences();
+  ASSERT_EQ(desk.said.size(), 3);
+  EXPECT_TRUE(desk.LastSaid().contains("An error occurred in GetUserPreferences.\nError Number: 76"));
+  EXPECT_EQ(prefs.ProposalFolder, Path("Wedding Proposals/"));
   // Back before anything was opened, it is the proposals' folder again.
   MakeShare("Wedding Proposals");
   GetUserPreferences();
