@@ -219,7 +219,7 @@ const std::vector<Command> ToolEntries = {
     Hidden(Entry("mnuToolsAdmin", "mnuAdminDelete", "Delete Old Files", "", DeleteAnyFileCommand)),
     Hidden(
         Entry("mnuToolsAdmin", "mnuAdminDebug", "Debug Font Position Descrepancies", "", DebugFontsCommand)),
-    Hidden(Entry("mnuToolsAdmin", "mnuAdminCheckAddition", "Check Addition", "", CheckAdditionTest)),
+    Hidden(Entry("mnuToolsAdmin", "mnuAdminCheckAddition", "Check Addition", "", AdminCheckAddition)),
     Hidden(Entry("mnuToolsAdmin", "mnuAdminTestCode", "Test Code", "", nullptr)),
     Hidden(Entry("mnuToolsAdmin", "mnuToolsAdminShowAllLabels", "Show All Labels", "", ShowAllLabelsCommand)),
     Hidden(Off(

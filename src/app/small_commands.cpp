@@ -147,20 +147,6 @@ void DebugFontsCommand() {
        QStringLiteral(" | Label Font = ") + FontWords(page(0).lbl[0].GetFont()));
 }
 
-void CheckAdditionTest() {
-  const QString answer = desk().InputBox(QStringLiteral("Please enter value"), Title, QString());
-  if (answer.isEmpty()) return;
-  const float step = ToSingle(answer);
-  std::vector<Control>& areas = page(1).txt;
-  for (size_t a = 36; a < areas.size(); ++a) areas[a].SetText(QString());
-  float value = step, sum = 0;
-  for (size_t a = 35; a < areas.size(); ++a, value += step) {
-    areas[a].SetText(SingleText(value));
-    sum += value;
-  }
-  Tell(SingleText(sum));
-}
-
 void ShowAllLabelsCommand() {
   for (int p = 0; p < IndexedPages; ++p)
     for (Control& label : page(p).lbl) label.SetShown(true);

@@ -39,8 +39,6 @@ void ToggleUnderline();
 void LogonCommand();
 void TestStringsCommand();
 void DebugFontsCommand();
-/// Fills the amounts of page 2 with an arithmetic row and tells its sum, to compare with the sub-total.
-void CheckAdditionTest();
 void ShowAllLabelsCommand();
 
 }  // namespace quillane

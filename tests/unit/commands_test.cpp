@@ -218,6 +218,15 @@ TEST_F(CommandTable, LogonEnablesThreeHiddenEntriesForTheRightWordOnly) {
   EXPECT_EQ(desk.said.first().title, "Password Required");
 }
 
+TEST_F(CommandTable, TheHiddenAdditionTestFillsTheSecondPage) {
+  desk.inputs.enqueue("2");
+  RunCommand("mnuAdminCheckAddition");
+  EXPECT_EQ(desk.said.first().text, "Please enter value");
+  EXPECT_EQ(page(1).txt[35].Text(), "2");
+  EXPECT_EQ(page(1).txt[69].Text(), "70");
+  EXPECT_EQ(desk.LastSaid(), "1260");
+}
+
 TEST_F(CommandTable, VersionIsToldAndWritten) {
   RunCommand("mnuHelpVersion");
   EXPECT_TRUE(desk.LastSaid().startsWith("Quillane\nVersion: " QUILLANE_VERSION "\nComments: "));
