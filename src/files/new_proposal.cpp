@@ -123,6 +123,13 @@ void ResetStatus() {
   ShowFootnoteMark(false);
 }
 
+// A format outlives the proposals that are written on it; without one its layer only holds what the last
+// proposal left there.
+void ForgetFormatLayer() {
+  format.FormatTextRec = {};
+  format.FormatLabelRec = {};
+}
+
 void TakeDefaultFormat(bool load) {
   if (!load) return;
   const QString& path = prefs.DefaultFileFormat;
@@ -180,6 +187,7 @@ bool StartNewFile() {
   Step([] { UpdateEventNameLabels(); });
   frame().form.caption = QStringLiteral("Quillane");
   ForgetEditing();
+  if (!format.FormatIsOpen) ForgetFormatLayer();
   {
     const Scoped rebuilding(editing.RebuildingPages, true);
     BlankPages();

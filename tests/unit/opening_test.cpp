@@ -243,6 +243,7 @@ TEST_F(Opening, StopsAtAPropertyLineThatIsWrong) {
 
 TEST_F(Opening, KeepsTheTextThatALockedFormatFixes) {
   Put("Ann Lee.wwf", FileBytes().Row(3, "stored").Row(4, "stored too", "12").Bytes());
+  format.FormatIsOpen = true;
   format.FormatTextRec[1][3].HasFormatText = true;
   At("frmP2.txt(3)").SetText("Arch and aisle");
   ASSERT_TRUE(Open("Ann Lee.wwf"));
