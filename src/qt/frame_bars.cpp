@@ -1,5 +1,7 @@
 // How the main window is put together.
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTimer>
@@ -45,6 +47,13 @@ QString SpokenName(const Control& control) {
   return control.Caption().isEmpty() ? control.ToolTip() : control.Caption();
 }
 
+/// A window that a command has opened swallows the release of the image that was pressed for it.
+void ClearPressedBorder(QToolButton& button) {
+  if (QApplication::mouseButtons() != Qt::NoButton) return;
+  button.setDown(false);
+  editing.ButtonPressed = false;
+}
+
 QFrame* MakeRule(QFrame::Shape shape) {
   auto* rule = new QFrame;
   rule->setFrameShape(shape);
@@ -80,10 +89,13 @@ void FrameWindow::AddImage(QHBoxLayout& row, const QString& name, int size) {
   connect(button, &QToolButton::pressed, this, [] { editing.ButtonPressed = true; });
   connect(button, &QToolButton::released, this, [] { editing.ButtonPressed = false; });
   if (ActsOnPress(name)) {
-    // After the press has been dealt with: a window that opens would swallow the release, and the image stay
-    // down.
-    connect(button, &QToolButton::pressed, this,
-            [this, name] { QTimer::singleShot(0, this, [name] { FrameClicked(name); }); });
+    // After the press has been dealt with, as the command may open a window.
+    connect(button, &QToolButton::pressed, this, [this, name, button] {
+      QTimer::singleShot(0, this, [name, button = QPointer(button)] {
+        FrameClicked(name);
+        if (button) ClearPressedBorder(*button);
+      });
+    });
   } else {
     connect(button, &QToolButton::clicked, this, [name] { FrameClicked(name); });
   }
