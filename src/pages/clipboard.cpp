@@ -114,6 +114,10 @@ bool FindDestination(Page& page) {
     Tell(QStringLiteral("Cannot paste here."));
     return false;
   }
+  if (selection.rows.empty()) {
+    Tell(QStringLiteral("Nothing Selected"));
+    return false;
+  }
   const int first = editing.CurrentArea;
   const AreaRange rows{first, first + static_cast<int>(selection.rows.size()) - 1};
   AreaRange amounts;
@@ -155,8 +159,10 @@ void RefireControl(Control& control) {
     if (control.Owner().textChanged) control.Owner().textChanged(control);
     return;
   }
+  const int start = control.SelStart(), length = control.SelLength();
   control.SetText(Other);
   control.SetText(text);
+  if (control.SelStart() != start || control.SelLength() != length) control.SetSelection(start, length);
 }
 
 void RefireRow(Page& page, int row) {
@@ -202,7 +208,7 @@ void CutTextContents(Page& page) {
 }
 
 void PasteTextContents(Page& page) {
-  if (selection.rows.empty() || !FindDestination(page) || !MayOverwrite(page)) return;
+  if (!FindDestination(page) || !MayOverwrite(page)) return;
   {
     Scoped pending(editing.RecalcPending, true);
     WriteMemory(page);
@@ -232,6 +238,9 @@ void DeleteTextContents(Page& page) {
 void UndoDelete() {
   if (!editing.UndoAvailable) return;
   Page& target = page(selection.UndoPage);
+  // Rows that were moved on the page in front keep the change handlers still; those of another page would
+  // never catch up.
+  if (editing.CurrentForm && &target != editing.CurrentForm) FinishMove(*editing.CurrentForm);
   {
     Scoped pending(editing.RecalcPending, true);
     for (size_t i = 0; i < selection.undo.size(); ++i)

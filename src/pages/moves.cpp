@@ -84,6 +84,14 @@ void MoveBlock(Page& page, Direction direction) {
   editing.MoveRow = direction == Direction::Down ? selection.SelDesc.last : selection.SelDesc.first;
 }
 
+// The key whose release ends a move may have written into a field of the first page, which is no row.
+void TakeFieldInUse(Page& page) {
+  Control* focus = editing.Focus;
+  if (!focus || &focus->Owner() != &page.form || focus->Array() != QLatin1String("txt")) return;
+  if (page.IsRow(focus->Index()) || page.IsAmount(focus->Index())) return;
+  if (page.form.textChanged) page.form.textChanged(*focus);
+}
+
 }  // namespace
 
 void MoveContents(Page& page, Direction direction) {
@@ -103,6 +111,8 @@ void MoveContents(Page& page, Direction direction) {
 void MoveCommand(Direction direction) {
   Page& page = *editing.CurrentForm;
   MoveContents(page, direction);
+  // A refused move has changed nothing, and nothing is to follow it.
+  if (!editing.MovingContents) return;
   // The change handlers stand still until a key is released on the page, so this pass reaches none of them;
   // the rows that a planner moves several times in a row are then taken up once.
   RefireChanges(page, Refire::AllRows);
@@ -112,6 +122,7 @@ void FinishMove(Page& page) {
   if (!editing.MovingContents) return;
   editing.MovingContents = false;
   RefireChanges(page, Refire::AllRows);
+  TakeFieldInUse(page);
 }
 
 }  // namespace quillane

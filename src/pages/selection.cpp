@@ -62,10 +62,10 @@ void RestPage(Page& page) {
 void RubberBandSelect(Page& page, const Band& band) {
   TakeFocusedAmount();
   ClearSelection();
-  if (!page.IsItemPage()) return;
   for (int area = 0; area <= page.LastText(); ++area)
     if (CanBeSelected(page, area) && LiesInside(Area(page, area), band)) SelectArea(page, area);
-  if (!editing.AreasSelected) return;
+  // A rectangle around nothing has still let go of what was selected before.
+  if (!editing.AreasSelected) return SetEditMenuState();
   SetSigns(colors::Blue, colors::Blue);
   frame()[QStringLiteral("cmdClearMem")].SetVisible(true);
   frame()[QStringLiteral("mnuEditTextDeselect")].SetEnabled(true);

@@ -83,6 +83,8 @@ KeyEvent Translate(const QKeyEvent& event) {
   key.shift = event.modifiers().testFlag(Qt::ShiftModifier);
   key.ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   key.alt = event.modifiers().testFlag(Qt::AltModifier);
+  // The Shift key that comes up is held no longer, whatever the system has told by then.
+  if (event.type() == QEvent::KeyRelease && event.key() == Qt::Key_Shift) key.shift = false;
   key.text = KeyText(event, key.key);
   return key;
 }

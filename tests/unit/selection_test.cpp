@@ -154,6 +154,14 @@ TEST_F(Selection, RefusesPastesThatHaveNoPlace) {
   EXPECT_EQ(TextAt(3, 33), "");
 }
 
+TEST_F(Selection, PastesNothingFromAnEmptyMemory) {
+  Fill(1, 4, "Kept", "1.00");
+  PutCaret(1, 4);
+  PasteTextContents(page(1));
+  EXPECT_EQ(desk.LastSaid(), "Nothing Selected");
+  EXPECT_EQ(TextAt(1, 4), "Kept");
+}
+
 TEST_F(Selection, AsksBeforeItOverwrites) {
   Fill(1, 0, "New", "1.00");
   Fill(2, 0, "Old", "9.00");
@@ -197,6 +205,28 @@ TEST_F(Selection, DeleteIsUndoneForTheWholePage) {
   EXPECT_EQ(page(5).txt[0].Text(), "15.00");
   EXPECT_EQ(page(5).txt[1].Text(), "11.00");
   EXPECT_FALSE(editing.UndoAvailable);
+}
+
+TEST_F(Selection, UndoOnAnotherPageIsStoredWhileAMoveIsUnderWay) {
+  Fill(1, 0, "Flowers", "10.00");
+  Select(1, 0, 0);
+  DeleteTextContents(page(1));
+  Fill(2, 5, "Chairs", "3.00");
+  Select(2, 5, 5);
+  MoveCommand(Direction::Down);
+  UndoDelete();
+  EXPECT_EQ(Stored(1, 0), "Flowers");
+  EXPECT_EQ(Stored(2, 6), "Chairs");
+  EXPECT_EQ(page(5).txt[0].Text(), "13.00");
+}
+
+TEST_F(Selection, ARectangleAroundNothingLeavesNoRowCommandAlive) {
+  Fill(1, 0, "Flowers", "10.00");
+  Select(1, 0, 0);
+  EXPECT_TRUE(frame()["mnuEditTextDelete"].Enabled());
+  RubberBandSelect(page(1), {0, 0, 500, 500});
+  EXPECT_FALSE(frame()["mnuEditTextDelete"].Enabled());
+  EXPECT_FALSE(IsBlue(Area(page(1), 0)));
 }
 
 TEST_F(Selection, CommandsNeedABlueRowOnThePageInFront) {

@@ -200,9 +200,10 @@ void Hands::Key(const QString& combination, int times) const {
   const std::vector<Qt::Key> held = ModifierKeys(press->modifiers);
   QWindow* window = KeyWindow();
   Qt::KeyboardModifiers down;
+  // As a keyboard tells it: with the keys that were held before this one went down or up.
   for (const Qt::Key key : held) {
-    down |= ModifierOf(key);
     qt_handleKeyEvent(window, QEvent::KeyPress, key, down);
+    down |= ModifierOf(key);
   }
   for (int count = 0; count < times; ++count) {
     // The key may have opened or closed a window: its release and the next press go to the one in front.
@@ -210,8 +211,8 @@ void Hands::Key(const QString& combination, int times) const {
     qt_handleKeyEvent(KeyWindow(), QEvent::KeyRelease, press->key, press->modifiers, press->text);
   }
   for (auto key = held.rbegin(); key != held.rend(); ++key) {
-    down &= ~ModifierOf(*key);
     qt_handleKeyEvent(KeyWindow(), QEvent::KeyRelease, *key, down);
+    down &= ~ModifierOf(*key);
   }
 }
 
