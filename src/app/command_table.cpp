@@ -3,12 +3,14 @@
 #include "app/small_commands.h"
 #include "app/startup.h"
 #include "files/event_file.h"
+#include "files/export.h"
 #include "files/file_dialog.h"
 #include "files/new_proposal.h"
 #include "model/proposal.h"
 #include "pages/areas.h"
 #include "pages/selection.h"
 #include "pages/totals.h"
+#include "print/pdf_file.h"
 #include "print/print.h"
 #include "ui/desk.h"
 
@@ -65,9 +67,11 @@ const std::vector<Command> FileEntries = {
     Rule("mnuFile"),
     Entry("mnuFile", "mnuFileSaveEvent", "&Save Proposal Fi&le", "Ctrl+S", [] { SaveEventFile(); }),
     Entry("mnuFile", "mnuFileSaveAs", "Save &As", "", [] { SaveEventFileAs(); }),
-    Entry("mnuFile", "mnuFileSaveAsText", "Save Proposal as Simple &Text File", "", nullptr),
-    Entry("mnuFile", "mnuFileSaveToWord", "Save Proposal to &Word for Formatting", "", nullptr),
-    Entry("mnuFile", "mnuFileCopyProposal", "Save Proposal to Memory (to insert elsewhere)", "", nullptr),
+    Entry("mnuFile", "mnuFileSaveAsText", "Save Proposal as Simple &Text File", "", SaveAsTextCommand),
+    Entry("mnuFile", "mnuFileSaveToWord", "Save Proposal to &Word for Formatting", "", SaveToWordCommand),
+    Entry("mnuFile", "mnuFileCopyProposal", "Save Proposal to Memory (to insert elsewhere)", "",
+          CopyProposalCommand),
+    Entry("mnuFile", "mnuFileSaveAsPdf", "Save Proposal as PDF...", "", SaveAsPdfCommand),
     Rule("mnuFile"),
     Off(Entry("mnuFile", "mnuFileRestoreFromBackup", "Replace Original Proposal with this Backup Copy", "",
               RestoreFromBackupCommand)),

@@ -28,15 +28,6 @@ const QString FootnoteFile = QStringLiteral(".wxt");
 
 enum class Properties { WhenChanged, Always };
 
-void ShowClientName() {
-  upcalls().UpdatePageButtons(0);
-  SetFocus(page(0).txt[2]);
-}
-
-void TakeCurrentFolder() {
-  if (proposal.CurrentFolder.isEmpty()) proposal.CurrentFolder = prefs.ProposalFolder;
-}
-
 bool ClientNameChanged() {
   return proposal.PageText[0][2].trimmed() != proposal.SavedText[0][2].trimmed();
 }
@@ -78,11 +69,7 @@ void MarkSaved() {
 
 bool MayReplaceDuplicate() {
   if (proposal.FileIsNamed && !ClientNameChanged()) return true;
-  if (!FileExists(proposal.CurrentFolder, proposal.EventFileName)) return true;
-  ShowDuplicateFileOptions(proposal.EventFileName);
-  const bool declined = proposal.SaveCancelled;
-  proposal.SaveCancelled = false;
-  return !declined;
+  return MayReplace(proposal.EventFileName);
 }
 
 bool SaveUnderItsName() {
@@ -193,6 +180,23 @@ bool SaveEventFileAs() {
     if (!IllegalFileName(baseName)) saved = SaveUnderNewName(baseName);
   });
   return saved;
+}
+
+bool MayReplace(const QString& fileName) {
+  if (!FileExists(proposal.CurrentFolder, fileName)) return true;
+  ShowDuplicateFileOptions(fileName);
+  const bool declined = proposal.SaveCancelled;
+  proposal.SaveCancelled = false;
+  return !declined;
+}
+
+void ShowClientName() {
+  upcalls().UpdatePageButtons(0);
+  SetFocus(page(0).txt[2]);
+}
+
+void TakeCurrentFolder() {
+  if (proposal.CurrentFolder.isEmpty()) proposal.CurrentFolder = prefs.ProposalFolder;
 }
 
 void ShowDuplicateFileOptions(const QString& fileName) {

@@ -16,6 +16,12 @@ bool SaveEventFileAs();
 /// Asks before an existing file is replaced; sets proposal.SaveCancelled when the user declines.  A Yes
 /// deletes nothing: the old file goes when the new one is whole.
 void ShowDuplicateFileOptions(const QString& fileName);
+/// True when no such file is in CurrentFolder, or the user lets it be replaced.
+bool MayReplace(const QString& fileName);
+/// Without a folder of its own a proposal is saved among the others.
+void TakeCurrentFolder();
+/// Brings page 1 to the front, at the area that asks for the name.
+void ShowClientName();
 /// Opens fileDialog.Folder + fileDialog.SelectedFileName, and its property file unless
 /// fileDialog.IgnoreProperties. The file is read whole before the pages are blanked, so that an unreadable
 /// one leaves the open proposal.  True when it was read.

@@ -1,5 +1,6 @@
 // The few calls that go up the layers, filled in at start by the layer that owns them.
 #pragma once
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -13,9 +14,12 @@ struct Upcalls {
   void (*SaveEventFile)() = [] {};                     ///< files
   QStringList (*PropertyLinesNow)() = [] {
     return QStringList();
-  };                                                   ///< files: the lines that a save would write
-  void (*SaveTaxRate)() = [] {};                       ///< files: writes and announces the new rate
-  void (*ResumeEditing)() = [] {};                     ///< print: leave the preview of the page in front
+  };                                ///< files: the lines that a save would write
+  void (*SaveTaxRate)() = [] {};    ///< files: writes and announces the new rate
+  void (*ResumeEditing)() = [] {};  ///< print: leave the preview of the page in front
+  /// qt: a report as the bytes of an OpenDocument text.
+  QByteArray (*WordDocument)(const QString& title, const QString& report) =
+      [](const QString&, const QString&) { return QByteArray(); };
   void (*ReAdjustScrollBar)(int window) = [](int) {};  ///< app
   void (*FrequentTermsHook)(Control& area) = [](Control&) {
   };  ///< tools: a key was typed while auto-complete is on

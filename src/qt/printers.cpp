@@ -7,10 +7,12 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include "model/proposal.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
 #include "print/print.h"
 #include "qt/painter_surface.h"
+#include "qt/pdf_info.h"
 
 namespace quillane::printers {
 
@@ -40,9 +42,12 @@ class PdfDocument : private PdfDevice, public PainterSurface {
     writer.setCreator(QStringLiteral("Quillane"));
     if (!painter.begin(&writer)) Raise(errors::Printer, path_);
   }
+  void NewPage() override {
+    if (!writer.newPage()) Raise(errors::Printer, path_);
+  }
   void EndDoc() override {
     if (!painter.end()) Raise(errors::Printer, path_);
-    ReplaceFile(path_, buffer.data());
+    ReplaceFile(path_, WithAuthor(buffer.data(), prefs.CompanyName));
   }
   void KillDoc() override { painter.end(); }
 

@@ -6,9 +6,11 @@
 #include "app/startup.h"
 #include "model/proposal.h"
 #include "model/report.h"
+#include "model/upcalls.h"
 #include "platform/files.h"
 #include "qt/frame_window.h"
 #include "qt/text_measure.h"
+#include "qt/word_document.h"
 
 namespace quillane {
 
@@ -20,6 +22,7 @@ Program::Program(QtDesk& desk, const QString& programFolder, const QString& data
   SetDrivesFolder(prefs.ProgramFolder + QStringLiteral("drives"));
   Guarded("Main", [&] { FillProgramFolder(prefs.ProgramFolder, dataFolder); });
   ConnectLayers();
+  upcalls().WordDocument = WordDocument;
   BuildMenus();
   desk_.showFrame = [this] { ShowFrame(); };
   desk_.closeFrame = [this] { CloseFrame(); };

@@ -30,6 +30,8 @@ class Surface {
   virtual void Line(float x1, float y1, float x2, float y2, Color color, float width) = 0;
   virtual void FillRect(float x, float y, float width, float height, Color color) = 0;
   virtual void PaintPicture(const Picture& picture, float x, float y, float width, float height) = 0;
+  /// Ends a sheet of the document; what follows goes onto the next one.
+  virtual void NewPage() {}
   /// Ends the document and sends it out.  Throws 482 when the printer fails.
   virtual void EndDoc() {}
   /// Drops the document.

@@ -41,9 +41,10 @@ const char* const ExpectedMenus = R"(mnuFile|&File||
   mnuFileOpenTextFile|Open Text File||
  mnuFileSaveEvent|&Save Proposal Fi&le|Ctrl+S|
  mnuFileSaveAs|Save &As||
- mnuFileSaveAsText|Save Proposal as Simple &Text File||d
- mnuFileSaveToWord|Save Proposal to &Word for Formatting||d
- mnuFileCopyProposal|Save Proposal to Memory (to insert elsewhere)||d
+ mnuFileSaveAsText|Save Proposal as Simple &Text File||
+ mnuFileSaveToWord|Save Proposal to &Word for Formatting||
+ mnuFileCopyProposal|Save Proposal to Memory (to insert elsewhere)||
+ mnuFileSaveAsPdf|Save Proposal as PDF...||
  mnuFileRestoreFromBackup|Replace Original Proposal with this Backup Copy||d
  mnuFileDelete|Delete Displayed Proposal||
  mnuFilePrintPreview|Print P&review|Ctrl+R|d

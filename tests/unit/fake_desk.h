@@ -20,6 +20,7 @@ class FakeDesk : public Desk {
   QList<Said> said;        ///< every box, questions and input prompts included
   QString clipboard;
   QStringList printers, shown, opened;
+  bool opens = true;             ///< whether the desktop has a program for what is opened
   QDateTime now{QDate(2026, 11, 22), QTime(10, 30)};
 
   Answer MessageBox(const QString& text, const QString& title, Buttons buttons) override {
@@ -39,7 +40,7 @@ class FakeDesk : public Desk {
   void SetClipboardText(const QString& text) override { clipboard = text; }
   bool OpenExternally(const QString& target) override {
     opened.append(target);
-    return true;
+    return opens;
   }
   QStringList PrinterNames() const override { return printers; }
   QString DefaultPrinterName() const override { return printers.value(0); }

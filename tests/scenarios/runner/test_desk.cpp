@@ -20,6 +20,9 @@ class Collected : public Surface {
         written_(std::move(written)) {}
 
   void SetOrigin(float scaleLeft, float scaleTop) override { paper_->SetOrigin(scaleLeft, scaleTop); }
+  float ScaleLeft() const override { return paper_->ScaleLeft(); }
+  float ScaleTop() const override { return paper_->ScaleTop(); }
+  void NewPage() override { paper_->NewPage(); }
   void SetFont(const Font& font) override { paper_->SetFont(font); }
   void SetColor(Color color) override { paper_->SetColor(color); }
   void Print(float x, float y, const QString& text) override { paper_->Print(x, y, text); }

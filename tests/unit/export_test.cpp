@@ -1,0 +1,254 @@
+#include "files/export.h"
+
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+#include <cerrno>
+
+#include "platform/codepage.h"
+#include "proposal_fixture.h"
+
+using namespace quillane;
+
+namespace {
+
+class ExportTest : public test::ProposalTest {
+ protected:
+  void SetUp() override {
+    ProposalTest::SetUp();
+    Type("frmP1.txt(2)", "Emily Carter");
+    upcalls().WordDocument = [](const QString& title, const QString& report) {
+      return (title + u'|' + report).toUtf8();
+    };
+  }
+  /// What the report says between the headings of the items and of the totals.
+  static QString Items() {
+    const QString report = ProposalReport();
+    const QString from = "Proposal Specifics\r\n" + QString(90, u'-') + "\r\n\r\n";
+    const qsizetype begin = report.indexOf(from) + from.size();
+    return report.mid(begin, report.indexOf("Totals\r\n") - begin);
+  }
+  /// As F8 makes a row; what is null leaves the prompt.
+  static void GiveColumns(int window, int row, const QString& quantity, const QString& each) {
+    const auto i = static_cast<size_t>(row);
+    ShowRowColumns(page(window), row, true);
+    if (!quantity.isNull()) page(window).txtQty[i].SetText(quantity);
+    if (!each.isNull()) page(window).txtAmt[i].SetText(each);
+  }
+};
+
+const QString Nothing = QStringLiteral("\r\n\r\n");
+const QString ShortRule = QString(45, u'-') + "\r\n";
+
+TEST_F(ExportTest, TellsEachItemByWhatItsRowHas) {
+  struct Case {
+    const char* why;
+    const char *text, *quantity, *each, *amount;  ///< no quantity: no columns; "" for an emptied column
+    bool bold;
+    QString expected;
+  };
+  const Case cases[] = {
+      {"nothing", "", nullptr, nullptr, "", false, Nothing},
+      {"an amount alone", "", nullptr, nullptr, "5.00", false, Nothing + "Subtotal:\t\t$ 5.00\r\n\r\n"},
+      {"plain", "Roses", nullptr, nullptr, "", false, "Roses\r\n"},
+      {"plain with an amount", "Roses", nullptr, nullptr, "12.00", false,
+       "Roses\r\nSubtotal:\t\t$ 12.00\r\n\r\n"},
+      {"a main category", "FLOWERS", nullptr, nullptr, "", true, "FLOWERS\r\n" + ShortRule},
+      {"bold and empty", "", nullptr, nullptr, "", true, Nothing},
+      {"prompts", "Roses", "Qty.", "Amt.", "", false, "Roses\r\n"},
+      {"a prompt and a price", "Roses", "Qty.", "2.00", "", false, "Roses\r\n"},
+      {"prompts without words", "", "Qty.", "Amt.", "", false, Nothing},
+      {"all parts", "Roses", "12", "2.50", "30.00", false,
+       "Desc:\t\t\tRoses\r\nQty:\t\t\t12\r\nAmt Each:\t\t$ 2.50\r\nSubtotal:\t\t$ 30.00\r\n\r\n"},
+      {"no price", "Roses", "12", "Amt.", "", false, "Desc:\t\t\tRoses\r\nQty:\t\t\t12\r\n"},
+      {"no words", "", "12", "2.50", "", false, "Qty:\t\t\t12\r\nAmt Each:\t\t$ 2.50\r\n"},
+      {"no quantity", "Roses", "", "2.50", "", false, "Desc:\t\t\tRoses\r\nAmt Each:\t\t$ 2.50\r\n"},
+      {"emptied columns", "", "", "", "", false, Nothing},
+  };
+  for (const Case& given : cases) {
+    StartNewFile();
+    const Scoped still(editing.RebuildingPages, true);
+    Control& area = page(0).txt[20];
+    if (given.quantity)
+      GiveColumns(0, 20, QString::fromLatin1(given.quantity), QString::fromLatin1(given.each));
+    area.SetText(given.text);
+    area.SetFontBold(given.bold);
+    page(0).txt[28].SetText(given.amount);
+    proposal.HighestPage = 2;
+    EXPECT_EQ(Items(), given.expected + Nothing.repeated(7)) << given.why;
+  }
+}
+
+TEST_F(ExportTest, LeavesOutPagesThatAreNotInUse) {
+  const Scoped still(editing.RebuildingPages, true);
+  for (int window = 1; window < ItemPages; ++window)
+    page(window).txt[0].SetText(QStringLiteral("Page %1").arg(window + 1));
+  for (int highest = 2; highest <= 6; ++highest) {
+    proposal.HighestPage = highest;
+    QString expected = Nothing.repeated(8);
+    for (int window = 1; window < highest - 1; ++window)
+      expected += QStringLiteral("Page %1\r\n").arg(window + 1) + Nothing.repeated(34);
+    EXPECT_EQ(Items(), expected) << highest;
+  }
+}
+
+TEST_F(ExportTest, TellsThePeopleThePlacesAndTheTotals) {
+  Type("frmP1.txt(0)", "June 14, 2027");
+  Type("frmP1.txt(4)", "  14 Mill Lane ");
+  Type("frmP1.txt(8)", "Daniel Núñez");
+  Type("frmP1.txt(18)", "6 pm");
+  page(0).lbl[21].SetCaption("His Name:");
+  page(5).lbl[47].SetCaption("Signed:");
+  page(5).lbl[56].SetCaption("");
+  for (size_t i = 13; i <= 46; ++i) page(5).lbl[i].SetCaption(i == 20 ? "No refunds." : "");
+  const QString rule = "\r\n" + QString(90, u'-') + "\r\n";
+  const auto caption = [](int window, size_t label) { return page(window).lbl[label].Caption(); };
+  const QString report = ProposalReport();
+  EXPECT_TRUE(report.startsWith("Alder Events - Proposal for Emily Carter\r\n\r\nBride Information" + rule +
+                                caption(0, 14) + "\t\tEmily Carter\r\n" + caption(0, 15) + "\t\t\r\n" +
+                                caption(0, 16) + "\t14 Mill Lane\r\n"))
+      << report.left(400).toStdString();
+  const QStringList parts = {
+      caption(0, 19) + "\t\t\r\n\r\n\r\nGroom Information" + rule + "His Name:\t\tDaniel Núñez\r\n",
+      caption(0, 26) + "\t\t\r\n\r\n\r\nCeremony Information" + rule + caption(0, 11) +
+          ":\t\tJune 14, 2027\r\n" + caption(0, 12) + ":\t\t\r\n" + caption(0, 28) + "\t\t\r\n",
+      caption(0, 29) + "\t\t\r\n\r\n\r\nReception Information" + rule + caption(0, 33) + "\t\t\t6 pm\r\n" +
+          caption(0, 34) + "\t\t\t\r\n" + caption(0, 31) + "\t\t\r\n" + caption(0, 32) +
+          "\t\t\r\n\r\n\r\nProposal Specifics" + rule + "\r\n"};
+  qsizetype at = 0;
+  for (const QString& part : parts) {
+    const qsizetype found = report.indexOf(part, at);
+    EXPECT_GT(found, at) << part.toStdString();
+    at = found;
+  }
+  const auto money = [](size_t i) { return "$ " + page(5).txt[i].Text() + "\r\n"; };
+  QString end = "Totals" + rule + "Subtotal:\t\t" + money(0) + "Taxable Amount:\t\t" + money(1) +
+                "Sales Tax:\t\t" + money(2) + "Total:\t\t\t" + money(3) + "Deposit Received:\t" + money(4) +
+                "Balance Due:\t\t" + money(5) + "\r\n\r\nNo refunds.\r\nSigned:\r\n\r\n\r\n";
+  for (const auto& [label, ends] : std::initializer_list<std::pair<size_t, int>>{
+           {48, 1}, {49, 3}, {52, 1}, {53, 3}, {50, 1}, {51, 3}, {54, 1}, {55, 3}})
+    end += caption(5, label) + QString("\r\n").repeated(ends);
+  for (size_t i = 57; i <= 62; ++i)
+    if (!caption(5, i).isEmpty()) end += caption(5, i) + "\r\n";
+  EXPECT_TRUE(report.endsWith(end)) << report.mid(report.indexOf("Totals")).toStdString();
+  EXPECT_TRUE(
+      ProposalReportBytes().contains("Daniel N\xFA\xF1"
+                                     "ez\r\n"));
+}
+
+TEST_F(ExportTest, SavesTheReportBesideTheProposalAndShowsIt) {
+  SaveAsTextCommand();
+  EXPECT_EQ(Said(), QStringList{"File was saved as Emily Carter.txt"});
+  EXPECT_EQ(Get("Emily Carter.txt"), ProposalReportBytes());
+  EXPECT_EQ(desk_.opened, QStringList{PathOf("Emily Carter.txt")});
+}
+
+TEST_F(ExportTest, CountsAnAmountThatIsStillBeingTyped) {
+  SetFocus(At("frmP2.txt(35)"));
+  At("frmP2.txt(35)").SetText("1250");
+  SaveAsTextCommand();
+  const QByteArray text = Get("Emily Carter.txt");
+  EXPECT_TRUE(text.contains("Subtotal:\t\t$ 1,250.00\r\n\r\n")) << text.constData();
+  EXPECT_TRUE(text.contains("Total:\t\t\t$ 1,250.00\r\n"));
+}
+
+TEST_F(ExportTest, AsksBeforeItReplacesAFile) {
+  Put("Emily Carter.txt", "old");
+  Reply({Answer::No});
+  SaveAsTextCommand();
+  EXPECT_EQ(Get("Emily Carter.txt"), "old");
+  EXPECT_TRUE(Said().value(0).startsWith("A file with this name (Emily Carter.txt)\nalready exists."));
+  EXPECT_EQ(desk_.LastSaid(), "File not saved.");
+  EXPECT_TRUE(desk_.opened.isEmpty());
+  EXPECT_FALSE(proposal.SaveCancelled);
+  Reply({Answer::Yes});
+  desk_.said.clear();
+  SaveAsTextCommand();
+  EXPECT_EQ(Get("Emily Carter.txt"), ProposalReportBytes());
+  EXPECT_EQ(Said().size(), 2) << "one question, one answer";
+}
+
+TEST_F(ExportTest, NeedsANameThatAFileCanHave) {
+  struct Case {
+    const char *name, *told;
+  };
+  const Case cases[] = {
+      {"Carter / Núñez",
+       "Action Cancelled. File Name cannot include any of \nthe following characters: / \\ : * ? < > |"},
+      {"", "Please enter the client's name in the appropriate area and save again."}};
+  for (const Case& given : cases) {
+    for (const auto command : {SaveAsTextCommand, CopyProposalCommand}) {
+      StartNewFile();
+      desk_.said.clear();
+      desk_.clipboard = "before";
+      Put("TempClipboardInfo.txt", "another proposal");
+      Type("frmP1.txt(2)", QString::fromUtf8(given.name));
+      SetFocus(At("frmP1.txt(5)"));
+      command();
+      EXPECT_EQ(Said(), QStringList{given.told});
+      EXPECT_EQ(editing.Focus, &At("frmP1.txt(2)"));
+      EXPECT_EQ(desk_.clipboard, "before");
+      EXPECT_TRUE(desk_.opened.isEmpty());
+    }
+    EXPECT_FALSE(Exists("TempClipboardInfo.txt"));
+  }
+}
+
+TEST_F(ExportTest, CopiesTheReportThroughItsScratchFile) {
+  Put("TempClipboardInfo.txt", QByteArray(100000, 'x'));
+  CopyProposalCommand();
+  EXPECT_EQ(Said(), QStringList{"Proposal saved to memory and is ready to paste in another application."});
+  EXPECT_EQ(Get("TempClipboardInfo.txt"), ProposalReportBytes());
+  EXPECT_EQ(desk_.clipboard, ProposalReport().replace("\r\n", "\n"));
+  EXPECT_FALSE(Exists("Emily Carter.txt"));
+}
+
+TEST_F(ExportTest, OpensADocumentNamedAfterTheProposal) {
+  struct Case {
+    const char *name, *file;
+  };
+  const Case cases[] = {{"Emily Carter", "Emily Carter.odt"},
+                        {"Carter / Núñez: \"A\\B\"", "Carter - Núñez- -A-B-.odt"},
+                        {"..", "-..odt"},
+                        {"", "Proposal.odt"}};
+  for (const Case& given : cases) {
+    StartNewFile();
+    Type("frmP1.txt(2)", QString::fromUtf8(given.name));
+    desk_.said.clear();
+    desk_.opened.clear();
+    SaveToWordCommand();
+    ASSERT_EQ(desk_.opened.size(), 1);
+    const QFileInfo written(desk_.opened[0]);
+    EXPECT_EQ(written.fileName(), QString::fromUtf8(given.file));
+    EXPECT_NE(written.path() + "/", prefs.ProposalFolder);
+    EXPECT_FALSE(QFileInfo(written.path()).permissions() & (QFile::ReadGroup | QFile::ReadOther));
+    EXPECT_EQ(ReadWholeFile(written.filePath()), (proposal.Title + u'|' + ProposalReport()).toUtf8());
+    EXPECT_TRUE(desk_.said.isEmpty()) << desk_.LastSaid().toStdString();
+    QDir(written.path()).removeRecursively();
+  }
+  EXPECT_TRUE(QDir(prefs.ProposalFolder).entryList({"*.txt", "*.odt"}, QDir::Files).isEmpty());
+}
+
+TEST_F(ExportTest, SaysWhereTheDocumentLiesWhenNothingOpensIt) {
+  desk_.opens = false;
+  SaveToWordCommand();
+  ASSERT_EQ(desk_.opened.size(), 1);
+  EXPECT_EQ(desk_.LastSaid(),
+            "No word processor was found on this computer. The document lies here:\n" + desk_.opened[0]);
+  QDir(QFileInfo(desk_.opened[0]).path()).removeRecursively();
+}
+
+TEST_F(ExportTest, ReportsADiskThatIsFullAndKeepsWhatWasThere) {
+  Put("Emily Carter.txt", "old");
+  desk_.clipboard = "before";
+  SetFaultHook([](const char* step, const QString&) { return qstrcmp(step, "write") == 0 ? ENOSPC : 0; });
+  Reply({Answer::Yes});
+  SaveAsTextCommand();
+  EXPECT_TRUE(desk_.LastSaid().contains("SaveFileAsText")) << desk_.LastSaid().toStdString();
+  EXPECT_EQ(Get("Emily Carter.txt"), "old");
+  CopyProposalCommand();
+  EXPECT_EQ(desk_.clipboard, "before");
+  EXPECT_TRUE(desk_.opened.isEmpty());
+}
+
+}  // namespace
