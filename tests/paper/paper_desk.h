@@ -22,7 +22,7 @@ class PaperDesk : public QtDesk {
   QStringList said, shown, documents;
   QString clipboard;
   Answer answer = Answer::Cancel;  ///< to every question
-  std::function<void()> onServe;  ///< what a person does while the program serves events
+  std::function<void()> onServe;   ///< what a person does while the program serves events
 
   Answer MessageBox(const QString& text, const QString&, Buttons) override {
     said.append(text);

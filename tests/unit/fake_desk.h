@@ -20,7 +20,7 @@ class FakeDesk : public Desk {
   QList<Said> said;        ///< every box, questions and input prompts included
   QString clipboard;
   QStringList printers, shown, opened;
-  bool opens = true;             ///< whether the desktop has a program for what is opened
+  bool opens = true;  ///< whether the desktop has a program for what is opened
   QDateTime now{QDate(2026, 11, 22), QTime(10, 30)};
 
   Answer MessageBox(const QString& text, const QString& title, Buttons buttons) override {
