@@ -63,6 +63,7 @@ void ShowFrameControls() {
   for (const char* button : {"cmdReCalc", "cmdTaxRate", "cmdClearMem"})
     frame()[QString::fromLatin1(button)].SetVisible(true);
   frame()[QStringLiteral("lblDir")].SetCaption(QStringLiteral("Current Folder = ") + prefs.ProposalFolder);
+  frame()[QStringLiteral("lblTextPos")].SetVisible(printing.NoPrinter == 0);
 }
 
 void PreparePages() {
