@@ -42,6 +42,29 @@ bool ActsOnPress(const QString& name) {
          name == QLatin1String("imgFootNotes");
 }
 
+/// A button whose caption may grow without pushing its neighbours about.  Where the window is narrow it gives
+/// up the room beside its words before the buttons would lie over each other.
+class CaptionButton : public QPushButton {
+ public:
+  explicit CaptionButton(QString longest) : longest_(std::move(longest)) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  }
+  QSize sizeHint() const override { return WithRoom(QStringLiteral("Resume Editing"), 28); }
+  QSize minimumSizeHint() const override { return WithRoom(longest_, 10); }
+
+ private:
+  QSize WithRoom(const QString& words, int room) const {
+    return {qMax(fontMetrics().horizontalAdvance(words), fontMetrics().horizontalAdvance(text())) + room, 30};
+  }
+  QString longest_;
+};
+
+QString LongestCaption(const QString& button) {
+  if (button == QLatin1String("cmdTaxRate")) return QStringLiteral("Tax Rate: 8.875%");
+  if (button == QLatin1String("cmdPreview")) return QStringLiteral("Resume Editing");
+  return frame()[button].Caption();
+}
+
 /// A name for who hears the window: tool tips say what an image does.
 QString SpokenName(const Control& control) {
   return control.Caption().isEmpty() ? control.ToolTip() : control.Caption();
@@ -111,11 +134,8 @@ void FrameWindow::AddDecoration(QHBoxLayout& row, const QString& name) {
 }
 
 void FrameWindow::AddButton(QHBoxLayout& row, const QString& name) {
-  auto* button = new QPushButton;
+  auto* button = new CaptionButton(LongestCaption(name));
   button->setFocusPolicy(Qt::ClickFocus);
-  // Room beside the words, so that a caption that grows ("Tax Rate: 8.25%") does not push its neighbours
-  // about.
-  button->setMinimumSize(button->fontMetrics().horizontalAdvance(QStringLiteral("Resume Editing")) + 28, 30);
   connect(button, &QPushButton::clicked, this, [name] { FrameClicked(name); });
   row.addWidget(button);
   Keep(name, button);
