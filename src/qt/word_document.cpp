@@ -12,27 +12,31 @@ namespace quillane {
 
 namespace {
 
-constexpr qreal PixelsPerInch = 96;  // of a text document without a screen
-constexpr qreal TabInches = 0.75, SheetWidthInches = 8.5, SheetHeightInches = 11;
-constexpr int TabStops = 8;
+constexpr qreal PixelsPerInch = 96;                      // of a text document without a screen
+constexpr qreal ValueColumn = 1.75, BetweenStops = 0.1;  // inches
 constexpr int TextPoints = 10, HeadingPoints = 13;
 
 bool IsRule(const QString& line) {
   return line.size() >= 10 && line.count(u'-') == line.size();
 }
 
-QTextBlockFormat LineFormat() {
-  QList<QTextOption::Tab> tabs;
-  for (int i = 1; i <= TabStops; ++i)
-    tabs.append(QTextOption::Tab(i * TabInches * PixelsPerInch, QTextOption::LeftTab));
+/// The report counts its tabs for letters of one width.  Here the last tab of each line leads to one column,
+/// and those before it to stops just short of that.
+QTextBlockFormat LineFormat(const QString& line) {
+  QList<QTextOption::Tab> stops;
+  for (qsizetype before = line.count(u'\t') - 1; before >= 0; --before)
+    stops.append(QTextOption::Tab((ValueColumn - static_cast<qreal>(before) * BetweenStops) * PixelsPerInch,
+                                  QTextOption::LeftTab));
   QTextBlockFormat format;
-  format.setTabPositions(tabs);
+  format.setTabPositions(stops);
   return format;
 }
 
 QTextCharFormat Letters(int points, QFont::Weight weight) {
   QTextCharFormat format;
-  format.setFontFamilies({QStringLiteral("Arial")});
+  const QString family = QStringLiteral("Arial");
+  format.setFontFamilies({family});
+  format.setProperty(QTextFormat::FontFamily, family);  // without its old name the writer takes another one
   format.setFontPointSize(points);
   format.setFontWeight(weight);
   return format;
@@ -51,7 +55,7 @@ void FillDocument(QTextDocument& document, const QStringList& lines) {
   QTextCursor cursor(&document);
   for (qsizetype i = 0; i < lines.size(); ++i) {
     if (i > 0) cursor.insertBlock();
-    cursor.setBlockFormat(LineFormat());
+    cursor.setBlockFormat(LineFormat(lines[i]));
     cursor.insertText(lines[i], FormatOf(lines, i));
   }
 }
@@ -63,7 +67,6 @@ QByteArray WordDocument(const QString& title, const QString& report) {
   text.remove(u'\r');
   QTextDocument document;
   document.setMetaInformation(QTextDocument::DocumentTitle, title);
-  document.setPageSize({SheetWidthInches * PixelsPerInch, SheetHeightInches * PixelsPerInch});
   FillDocument(document, text.split(u'\n'));
   QBuffer buffer;
   QTextDocumentWriter writer(&buffer, "odf");

@@ -5,8 +5,8 @@
 
 namespace quillane {
 
-/// An OpenDocument text of letter size whose lines are those of `report`: its headings stand out, its columns
-/// line up on tab stops, its rules stay on one line.  Throws 75 when it could not be made.
+/// An OpenDocument text whose lines are those of `report`: its headings stand out and its values line up. The
+/// sheet's size is the word processor's own.  Throws 75 when it could not be made.
 QByteArray WordDocument(const QString& title, const QString& report);
 
 }  // namespace quillane

@@ -118,6 +118,13 @@ TEST_F(PdfFile, AWordProcessorFindsTheReportsLinesInItsDocument) {
   ReplaceFile(path, WordDocument(proposal.Title, report));
   QString content = Output(QStringLiteral("unzip"), {"-p", path, "content.xml"});
   ASSERT_FALSE(content.isEmpty()) << "the test needs unzip";
+  EXPECT_TRUE(content.contains(QStringLiteral("font-family=\"Arial\" fo:font-size=\"10pt\"")));
+  // The values of lines with one, two and three tabs stand in one column, which is the last stop of each.
+  QRegularExpression lastStop("position=\"([^\"]*)\" style:type=\"left\"/>\\s*</style:tab-stops>");
+  int kinds = 0;
+  for (auto found = lastStop.globalMatch(content); found.hasNext(); ++kinds)
+    EXPECT_EQ(found.next().captured(1).toStdString(), "126pt");
+  EXPECT_EQ(kinds, 3);
   content = content.mid(content.indexOf(QStringLiteral("<office:body>")));
   content.remove(QRegularExpression("\\n\\s*(?=<)"));  // between the file's own marks
   content.replace(QRegularExpression("<text:p [^>]*/>"), QStringLiteral("\n"));
