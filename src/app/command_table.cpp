@@ -11,6 +11,7 @@
 #include "pages/selection.h"
 #include "pages/totals.h"
 #include "print/pdf_file.h"
+#include "print/preview.h"
 #include "print/print.h"
 #include "ui/desk.h"
 
@@ -77,7 +78,7 @@ const std::vector<Command> FileEntries = {
               RestoreFromBackupCommand)),
     Entry("mnuFile", "mnuFileDelete", "Delete Displayed Proposal", "", DeleteProposalCommand),
     Rule("mnuFile"),
-    Entry("mnuFile", "mnuFilePrintPreview", "Print P&review", "Ctrl+R", nullptr),
+    Entry("mnuFile", "mnuFilePrintPreview", "Print P&review", "Ctrl+R", PrintPreview),
     Menu("mnuFile", "mnuFilePrint", "&Print"),
     Entry("mnuFilePrint", "mnuFilePrintAll", "&Print All Pages", "Ctrl+P", PrintAllCommand),
     Rule("mnuFilePrint"),
@@ -88,7 +89,7 @@ const std::vector<Command> FileEntries = {
     Entry("mnuFilePrint", "mnuFilePrintPage5", "Print Page 5", "", PrintPage<4>),
     Entry("mnuFilePrint", "mnuFilePrintPage6", "Print Totals and Contract Page", "", PrintPage<5>),
     Entry("mnuFilePrint", "mnuFilePrintPage6_1", "Print Totals and Contract Page Copy", "", PrintPage<6>),
-    Off(Entry("mnuFile", "mnuFileResume", "Resume &Editing", "Ctrl+E", nullptr)),
+    Off(Entry("mnuFile", "mnuFileResume", "Resume &Editing", "Ctrl+E", PrintPreview)),
     Rule("mnuFile"),
     Entry("mnuFile", "mnuFileExit", "E&xit", "", Leave),
 

@@ -41,9 +41,17 @@ constexpr Shortcut ToolBar[] = {
 };
 
 QString EntryBehind(const QString& control) {
+  if (control == QLatin1String("cmdPreview") && InPreview()) return QStringLiteral("mnuFileResume");
   for (const Shortcut& shortcut : ToolBar)
     if (control == QLatin1String(shortcut.control)) return QString::fromLatin1(shortcut.entry);
   return {};
+}
+
+/// An entry sleeps with the menu that it stands in, whichever way it is asked for.
+bool IsAwake(const Command& command) {
+  if (!frame()[QString::fromLatin1(command.name)].Enabled()) return false;
+  const Command* menu = ByName().value(QString::fromLatin1(command.parent));
+  return !menu || IsAwake(*menu);
 }
 
 }  // namespace
@@ -73,7 +81,7 @@ void BuildMenus() {
 
 void RunCommand(const QString& name) {
   const Command* command = ByName().value(name);
-  if (!command || !command->run || !frame()[name].Enabled()) return;
+  if (!command || !command->run || !IsAwake(*command)) return;
   Guarded(command->name, command->run);
 }
 

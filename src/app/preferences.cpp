@@ -346,6 +346,13 @@ Saved StorePreference(Setting setting, const QString& value) {
   return saved;
 }
 
+Saved StorePreference(const QString& key, const QString& value) {
+  const auto found =
+      std::find_if(Keys.begin(), Keys.end(), [&](const char* own) { return key == QLatin1String(own); });
+  if (found == Keys.end()) Raise(errors::InvalidProcedureCall, key);
+  return StorePreference(static_cast<Setting>(found - Keys.begin()), value);
+}
+
 void RequestNetworkSharePath() {
   Guarded("RequestNetworkSharePath", [] {
     const QString answer = desk().InputBox(

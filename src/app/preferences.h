@@ -56,6 +56,8 @@ Saved SaveUserPreferences();
 void SetPrefLine(Setting setting, const QString& value);
 /// SetPrefLine, SaveUserPreferences, GetUserPreferences.
 Saved StorePreference(Setting setting, const QString& value);
+/// The same for a line that is known by its key, "Default Printer:".  Throws 5 for a key that no line has.
+Saved StorePreference(const QString& key, const QString& value);
 /// "True" or "False".
 QString BooleanText(bool value);
 

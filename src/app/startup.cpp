@@ -20,6 +20,7 @@
 #include "pages/changes.h"
 #include "pages/defaults.h"
 #include "pages/totals.h"
+#include "print/preview.h"
 #include "print/print.h"
 #include "ui/desk.h"
 
@@ -148,9 +149,8 @@ void LoadMainFrame() {
 void UpdatePageButtons(int window) {
   TakeFocusedAmount();
   Guarded("UpdatePageButtons", [window] {
-    Control& preview = frame()[QStringLiteral("cmdPreview")];
-    if (!editing.StartingUp && preview.Caption() == QLatin1String("Resume Editing")) {
-      preview.SetCaption(QStringLiteral("Print Preview"));
+    if (!editing.StartingUp && InPreview()) {
+      MarkPreview(Preview::Ended);
       upcalls().ResumeEditing();
     }
     for (int k = 0; k < PageCount; ++k) ShowPageButton(k, ButtonFace::Plain);
@@ -216,6 +216,10 @@ void ConnectLayers() {
   calls.SaveTaxRate = SaveTaxRate;
   calls.PropertyLinesNow = PropertyLinesNow;
   calls.CommandExists = CommandExists;
+  calls.ResumeEditing = ResumeEditing;
+  calls.StorePreference = [](const QString& key, const QString& value) {
+    return StorePreference(key, value) == Saved::Yes;
+  };
   calls.SetEditMenuState = [](const QString&) { SetEditMenuState(); };
   frame().VScroll1.Value.changed = [](int value) { ScrollChanged(value); };
   InstallPageHandlers();

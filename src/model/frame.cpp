@@ -9,6 +9,8 @@ std::unique_ptr<Frame>& TheFrame() {
   static std::unique_ptr<Frame> frame;
   return frame;
 }
+
+const QString ResumeCaption = QStringLiteral("Resume Editing");
 }  // namespace
 
 Frame::Frame() {
@@ -102,6 +104,11 @@ void MarkTotalsFresh() {
 }
 bool TotalsAreStale() {
   return frame()["cmdReCalc"].BackColor() == colors::Red;
+}
+
+bool InPreview() { return frame()["cmdPreview"].Caption() == ResumeCaption; }
+void MarkPreview(Preview preview) {
+  frame()["cmdPreview"].SetCaption(preview == Preview::Shows ? ResumeCaption : QStringLiteral("Print Preview"));
 }
 
 }  // namespace quillane

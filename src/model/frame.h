@@ -65,4 +65,10 @@ void MarkTotalsStale();
 void MarkTotalsFresh();
 bool TotalsAreStale();
 
+/// Told by cmdPreview's caption: the page in front stands as it will print, and no hand writes.
+bool InPreview();
+enum class Preview { Ended, Shows };
+/// Writes that caption; the window follows it.
+void MarkPreview(Preview preview);
+
 }  // namespace quillane

@@ -17,6 +17,11 @@ struct Upcalls {
   };                                ///< files: the lines that a save would write
   void (*SaveTaxRate)() = [] {};    ///< files: writes and announces the new rate
   void (*ResumeEditing)() = [] {};  ///< print: leave the preview of the page in front
+  /// app: replaces a preference's line by its key ("Default Printer:"), writes the file and reads it again.
+  /// False when it could not be written, which has been told.
+  bool (*StorePreference)(const QString& key, const QString& value) = [](const QString&, const QString&) {
+    return false;
+  };
   /// qt: a report as the bytes of an OpenDocument text.
   QByteArray (*WordDocument)(const QString& title, const QString& report) =
       [](const QString&, const QString&) { return QByteArray(); };

@@ -1,6 +1,7 @@
 // What a hand may write into a control: which characters pass, and what a paste brings.
 #include <algorithm>
 
+#include "model/frame.h"
 #include "model/proposal.h"
 #include "pages/area_rules.h"
 #include "platform/codepage.h"
@@ -80,7 +81,8 @@ Handled KeyPress(Control& control, const KeyEvent& event) {
 
 bool AcceptsTyping(const Control& control) {
   const Page* page = PageOf(control);
-  if (!page || page->window == CopyOfPage6 || control.Locked() || editing.AreasSelected) return false;
+  if (!page || page->window == CopyOfPage6 || control.Locked() || editing.AreasSelected || InPreview())
+    return false;
   return !IsArea(control) || !FixedByFormat(*page, control.Index());
 }
 

@@ -68,15 +68,6 @@ void ReportPrintError(const RuntimeError& error) {
     ReportProgramError(QStringLiteral("PrintTheForm"), error);
 }
 
-/// What is printed must add up: an amount that still has the focus counts, and so does what a move left
-/// behind.
-void BringTotalsUpToDate() {
-  TakeFocusedAmount();
-  const auto sums = proposal.PageSubTotal, taxable = proposal.PageTaxable;
-  CalculateAllPages();
-  if (sums != proposal.PageSubTotal || taxable != proposal.PageTaxable) RecalculateTotals(0);
-}
-
 QString MessageFor(const Page& printed) {
   const int number = printed.pageIndex == TotalsPage ? proposal.HighestPage : printed.pageIndex + 1;
   const QString text = QStringLiteral("Printing Page %1 of %2").arg(number).arg(proposal.HighestPage);
@@ -85,8 +76,6 @@ QString MessageFor(const Page& printed) {
 
 void PrintOne(int window) {
   const Page& printed = page(window);
-  FindHighestPage();
-  UpdatePageNumbers();
   editing.CurrentFormName = printed.form.name;
   Message() = MessageFor(printed);
   desk().ShowWindow(QStringLiteral("frmDialog"), Modality::Modeless);
@@ -111,9 +100,23 @@ float OffsetIn(const QString& text) {
 
 }  // namespace
 
-void PrintTheForm() {
+void BringSheetsUpToDate() {
+  // An amount that still has the focus counts, and so does what a move left behind.
+  TakeFocusedAmount();
+  const auto sums = proposal.PageSubTotal, taxable = proposal.PageTaxable;
+  CalculateAllPages();
+  if (sums != proposal.PageSubTotal || taxable != proposal.PageTaxable) RecalculateTotals(0);
+  FindHighestPage();
+  UpdatePageNumbers();
+}
+
+void PrepareDrawing() {
   if (TotalsAreStale()) RecalculateTotals(0);
   ReadPrinterOffsets();
+}
+
+void PrintTheForm() {
+  PrepareDrawing();
   const Scoped rebuilding(editing.RebuildingPages, true);
   const Page* printed = PageNamed(editing.CurrentFormName);
   if (!printed) return;
@@ -128,17 +131,17 @@ void PrintTheForm() {
 void PrintPageCommand(int window) {
   FindPrinter();
   if (printing.NoPrinter != 0) return;
-  BringTotalsUpToDate();
+  BringSheetsUpToDate();
   PrintOne(window);
 }
 
 void PrintAllCommand() {
   FindPrinter();
   if (printing.NoPrinter != 0) return Tell(QStringLiteral("Printer Error 482. Printer not found."));
-  FindHighestPage();
+  if (printing.PrintCancelled) return;
+  BringSheetsUpToDate();
   const int highest = proposal.HighestPage;
-  if (highest < 2 || highest > 6 || printing.PrintCancelled) return;
-  BringTotalsUpToDate();
+  if (highest < 2 || highest > 6) return;
   // Last page first, so that a stack that lies face up comes out in order.
   PrintOne(CopyOfPage6);
   PrintOne(TotalsPage);

@@ -20,6 +20,11 @@ void LoadTheFonts();
 /// Asks the system again which printers there are; sets printing.NoPrinter and printing.CurrentPrinter.
 void FindPrinter();
 void ReadPrinterOffsets();
+/// Before sheets are drawn or leave the program: what is typed counts, the sums add up, and the pages in use are
+/// counted and numbered.
+void BringSheetsUpToDate();
+/// What every drawing begins with: stale totals are recalculated, the printer's offsets are read.
+void PrepareDrawing();
 /// The printed width of `text` in an area's font, in inches.
 float PrinterTextWidth(const Control& area, const QString& text);
 /// What frmDialog's lblMessage reads.

@@ -97,6 +97,8 @@ void FrameWindow::ShowAsBefore() {
 void FrameWindow::AfterChange(Control& control, Aspect) {
   if (control.GetKind() == Kind::Menu) return menus_->Follow(control);
   if (QWidget* widget = widgets_.value(&control)) Follow(control, *widget);
+  if (control.Array() == QLatin1String("cmdPreview"))
+    sheet_->SetDrawMode(InPreview() ? DrawMode::Printing : DrawMode::Editing);
   // The caption is written right after the title's label; one look when all is done serves both.
   if (control.Array() != QLatin1String("lblEvent") || std::exchange(titleStale_, true)) return;
   QMetaObject::invokeMethod(

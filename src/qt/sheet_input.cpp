@@ -365,7 +365,7 @@ void SheetView::wheelEvent(QWheelEvent* event) {
 bool SheetView::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
-  const Control* under = ControlAt(ToTwips(help->pos()));
+  const Control* under = mode_ == DrawMode::Editing ? ControlAt(ToTwips(help->pos())) : nullptr;
   if (under && !under->ToolTip().isEmpty())
     QToolTip::showText(help->globalPos(), under->ToolTip(), this, PixelRect(*under));
   else

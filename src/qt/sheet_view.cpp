@@ -2,6 +2,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -81,7 +82,12 @@ void SheetView::SetZoom(double zoom) {
 }
 
 void SheetView::SetDrawMode(DrawMode mode) {
+  if (mode_ == mode) return;
+  editor_->FinishComposing();
   mode_ = mode;
+  pressed_ = nullptr;
+  setCursor(Qt::ArrowCursor);
+  QToolTip::hideText();
   FocusControl(editing.Focus);
   update();
 }

@@ -47,7 +47,7 @@ const char* const ExpectedMenus = R"(mnuFile|&File||
  mnuFileSaveAsPdf|Save Proposal as PDF...||
  mnuFileRestoreFromBackup|Replace Original Proposal with this Backup Copy||d
  mnuFileDelete|Delete Displayed Proposal||
- mnuFilePrintPreview|Print P&review|Ctrl+R|d
+ mnuFilePrintPreview|Print P&review|Ctrl+R|
  mnuFilePrint|&Print||
   mnuFilePrintAll|&Print All Pages|Ctrl+P|
   mnuFilePrintPage1|Print Page 1||
@@ -188,11 +188,10 @@ TEST_F(CommandTable, HasEveryEntryWithItsCaptionKeyAndStartState) {
 }
 
 TEST_F(CommandTable, ToolBarButtonsOfAbsentCommandsAreDisabled) {
-  EXPECT_FALSE(frame()["cmdPreview"].Enabled());
   EXPECT_FALSE(frame()["imgSearch"].Enabled());
   EXPECT_TRUE(frame()["cmdReCalc"].Enabled());
-  EnableEntry("mnuFilePrintPreview", true);
-  EXPECT_FALSE(frame()["mnuFilePrintPreview"].Enabled());
+  EnableEntry("mnuEditFind", true);
+  EXPECT_FALSE(frame()["mnuEditFind"].Enabled());
 }
 
 TEST_F(CommandTable, SwitchesKeepCheckAndFlagTogether) {

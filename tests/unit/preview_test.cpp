@@ -1,0 +1,124 @@
+#include "print/preview.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "app/commands.h"
+#include "app/startup.h"
+#include "fake_desk.h"
+#include "model/focus.h"
+#include "model/frame.h"
+#include "model/proposal.h"
+#include "pages/areas.h"
+#include "pages/defaults.h"
+#include "platform/files.h"
+
+using namespace quillane;
+
+namespace {
+
+class PreviewTest : public testing::Test {
+ protected:
+  PreviewTest() {
+    prefs.ProgramFolder = WithSeparator(folder.path());
+    ResetState();
+    prefs.ProposalFolder = prefs.ProgramFolder;
+    ConnectLayers();
+    BuildMenus();
+    const Scoped building(editing.RebuildingPages, true);
+    SetUpPages();
+    ShowDefaultPages();
+    UpdatePageButtons(1);
+  }
+  QTemporaryDir folder;
+  test::FakeDesk desk;
+};
+
+struct States {
+  bool preview, resume, edit, text, clear;
+  bool operator==(const States&) const = default;
+};
+States StatesNow() {
+  const auto awake = [](const char* name) { return frame()[QString::fromLatin1(name)].Enabled(); };
+  return {awake("mnuFilePrintPreview"), awake("mnuFileResume"), awake("mnuEdit"), awake("mnuEditCtrl"),
+          awake("cmdClearMem")};
+}
+
+TEST_F(PreviewTest, BeginsAndEndsByEntryAndByButton) {
+  const States before = StatesNow();
+  ASSERT_TRUE(before.preview && !before.resume);
+  struct Way {
+    void (*begin)();
+    void (*end)();
+  };
+  const Way ways[] = {
+      {[] { RunCommand("mnuFilePrintPreview"); }, [] { RunCommand("mnuFileResume"); }},
+      {[] { FrameClicked("cmdPreview"); }, [] { FrameClicked("cmdPreview"); }},
+      {[] { RunCommand("mnuFilePrintPreview"); }, [] { FrameClicked("cmdPreview"); }},
+      {[] { FrameClicked("cmdPreview"); }, [] { UpdatePageButtons(1); }},
+  };
+  for (const Way& way : ways) {
+    way.begin();
+    EXPECT_TRUE(InPreview());
+    EXPECT_EQ(frame()["cmdPreview"].Caption(), QStringLiteral("Resume Editing"));
+    EXPECT_EQ(StatesNow(), (States{false, true, false, false, false}));
+    way.end();
+    EXPECT_FALSE(InPreview());
+    EXPECT_EQ(frame()["cmdPreview"].Caption(), QStringLiteral("Print Preview"));
+    EXPECT_EQ(StatesNow(), before);
+    EXPECT_EQ(editing.Focus, &page(1).txt[0]) << "the page has the keys again";
+  }
+}
+
+TEST_F(PreviewTest, LetsNothingWriteIntoThePage) {
+  Control& area = page(1).txt[3];
+  area.SetText("Roses");
+  SetFocus(area);
+  PrintPreview();
+  EXPECT_FALSE(AcceptsTyping(area));
+  EXPECT_FALSE(DropTerm(area, "Lilies[5.00]"));
+  EXPECT_TRUE(PasteInto(area, "Lilies").isEmpty());
+  RunCommand("mnuEditTextColumns");
+  EXPECT_FALSE(page(1).HasColumns(3));
+  EXPECT_EQ(area.Text(), QStringLiteral("Roses"));
+  for (const Control* control : page(1).Controls())
+    EXPECT_EQ(control->Visible(), !control->Hidden()) << control->FullName().toStdString();
+  PrintPreview();
+  RunCommand("mnuEditTextColumns");
+  EXPECT_TRUE(page(1).HasColumns(3));
+}
+
+TEST_F(PreviewTest, ShowsWhatAPrintWouldShow) {
+  SetFocus(page(1).txt[35]);
+  page(1).txt[35].SetText("1250");
+  PrintPreview();
+  EXPECT_EQ(page(1).txt[35].Text(), QStringLiteral("1,250.00"));
+  EXPECT_EQ(page(5).txt[0].Text(), QStringLiteral("1,250.00"));
+  EXPECT_FALSE(TotalsAreStale());
+  EXPECT_EQ(proposal.HighestPage, 3);
+  EXPECT_EQ(editing.CurrentFormName, QStringLiteral("frmP2"));
+  UpdatePageButtons(CopyOfPage6);
+  EXPECT_FALSE(InPreview()) << "another page begins in editing";
+  PrintPreview();
+  EXPECT_TRUE(InPreview());
+  EXPECT_EQ(editing.CurrentFormName, QStringLiteral("frmP6_1"));
+}
+
+TEST_F(PreviewTest, ReadsTheOffsetsAnewAndReportsThem) {
+  ReplaceFile(prefs.ProposalFolder + "PrinterOffsets.txt",
+              "Printer X Offset: .5\r\nPrinter Y Offset:-.25\r\n");
+  PrintPreview();
+  EXPECT_EQ(printing.PrinterXOffset, 720);
+  EXPECT_EQ(printing.PrinterYOffset, -360);
+}
+
+TEST_F(PreviewTest, KeepsAsleepWhatSleptBefore) {
+  frame()["mnuManage"].SetEnabled(false);
+  PrintPreview();
+  PrintPreview();
+  EXPECT_FALSE(frame()["mnuManage"].Enabled());
+  EXPECT_TRUE(frame()["mnuEdit"].Enabled());
+}
+
+}  // namespace
