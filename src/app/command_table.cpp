@@ -13,6 +13,7 @@
 #include "print/pdf_file.h"
 #include "print/preview.h"
 #include "print/print.h"
+#include "print/printer_choice.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -178,7 +179,7 @@ const std::vector<Command> OptionEntries = {
     Entry("mnuOpt", "mnuOptFUT", "Show &Frequently Used Terms", "", nullptr),
     Entry("mnuOpt", "mnuOptCalc", "Show &Calculator", "", nullptr),
     Hidden(Entry("mnuOpt", "mnuOptPrinterOffset", "Change Printer Offsets", "", nullptr)),
-    Entry("mnuOpt", "mnuOptPrinter", "Change Default Printer", "", nullptr),
+    Entry("mnuOpt", "mnuOptPrinter", "Change Default Printer", "", ChangePrinterCommand),
     Entry("mnuOpt", "mnuOptACStart", "Change Auto Word Complete Start Position", "", nullptr),
     Entry("mnuOpt", "mnuOptSalesTax", "Check Sales &Tax Rate", "",
           [] { desk().ShowWindow(QStringLiteral("frmTax"), Modality::Modal); }),
@@ -210,7 +211,8 @@ const std::vector<Command> ToolEntries = {
     Entry("mnuTools", "mnuToolsAlignWithSnap", "Align Form to Snap", "", nullptr),
     Entry("mnuTools", "mnuToolsDrawCenterLines", "Draw Grid", "", nullptr),
     Entry("mnuTools", "mnuToolsClearCenterLines", "Clear Grid", "", nullptr),
-    Entry("mnuTools", "mnuToolsPrinterOffsets", "Adjust Printer Offsets", "", nullptr),
+    Entry("mnuTools", "mnuToolsPrinterOffsets", "Adjust Printer Offsets", "",
+          [] { desk().ShowWindow(QStringLiteral("frmPOffsets"), Modality::Modal); }),
     Rule("mnuTools"),
     Entry("mnuTools", "mnuToolsCreateShorcut", "Create Shorcut on the Desktop", "", CreateShortcutCommand),
     Entry("mnuTools", "mnuToolsCreateShortcutUM", "Create Shortcut for Upgrade Manager", "",

@@ -9,7 +9,6 @@
 #include "pages/titles.h"
 #include "pages/totals.h"
 #include "platform/files.h"
-#include "platform/numbers.h"
 #include "print/draw.h"
 #include "ui/desk.h"
 
@@ -85,17 +84,6 @@ void PrintOne(int window) {
 
 float WidthForStatus(Control& area, const QString& text) {
   return PrinterTextWidth(area, text);
-}
-
-/// What stands behind `key` in the file, up to the end of its line.
-QString OffsetText(const QString& text, const QString& key) {
-  const qsizetype from = text.indexOf(key) + key.size();
-  const qsizetype end = text.indexOf(QLatin1Char('\n'), from);
-  return (end < 0 ? text.mid(from) : text.mid(from, end - from)).trimmed();
-}
-
-float OffsetIn(const QString& text) {
-  return text.isEmpty() ? 0 : ToSingle(text) * TwipsPerInch;
 }
 
 }  // namespace
@@ -185,20 +173,6 @@ void LoadTheFonts() {
       printing.PrinterFontNames.append(name);
     }
     printing.FontsLoaded = true;
-  });
-}
-
-void ReadPrinterOffsets() {
-  Guarded("ReadPrinterOffsets", [] {
-    printing.PrinterXOffset = printing.PrinterYOffset = 0;
-    const QString name = QStringLiteral("PrinterOffsets.txt");
-    if (!FileExists(prefs.ProposalFolder, name)) return;
-    const QString text = QString::fromLatin1(ReadWholeFile(prefs.ProposalFolder + name));
-    const QString xKey = QStringLiteral("Printer X Offset:"), yKey = QStringLiteral("Printer Y Offset:");
-    if (!text.contains(xKey)) return;
-    printing.PrinterXOffset = OffsetIn(OffsetText(text, xKey));
-    if (!text.contains(yKey)) return;
-    printing.PrinterYOffset = OffsetIn(OffsetText(text, yKey));
   });
 }
 

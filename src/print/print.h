@@ -19,9 +19,10 @@ void CancelPrint();
 void LoadTheFonts();
 /// Asks the system again which printers there are; sets printing.NoPrinter and printing.CurrentPrinter.
 void FindPrinter();
+/// From PrinterOffsets.txt; both are 0 where there is none.
 void ReadPrinterOffsets();
-/// Before sheets are drawn or leave the program: what is typed counts, the sums add up, and the pages in use are
-/// counted and numbered.
+/// Before sheets are drawn or leave the program: what is typed counts, the sums add up, and the pages in use
+/// are counted and numbered.
 void BringSheetsUpToDate();
 /// What every drawing begins with: stale totals are recalculated, the printer's offsets are read.
 void PrepareDrawing();

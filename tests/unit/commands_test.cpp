@@ -115,7 +115,7 @@ mnuOpt|Options||
  mnuOptFUT|Show &Frequently Used Terms||d
  mnuOptCalc|Show &Calculator||d
  mnuOptPrinterOffset|Change Printer Offsets||hd
- mnuOptPrinter|Change Default Printer||d
+ mnuOptPrinter|Change Default Printer||
  mnuOptACStart|Change Auto Word Complete Start Position||d
  mnuOptSalesTax|Check Sales &Tax Rate||
  mnuOptNetwork|Set Up Network Share Path||
@@ -133,7 +133,7 @@ mnuTools|&Tools||
  mnuToolsAlignWithSnap|Align Form to Snap||d
  mnuToolsDrawCenterLines|Draw Grid||d
  mnuToolsClearCenterLines|Clear Grid||d
- mnuToolsPrinterOffsets|Adjust Printer Offsets||d
+ mnuToolsPrinterOffsets|Adjust Printer Offsets||
  mnuToolsCreateShorcut|Create Shorcut on the Desktop||
  mnuToolsCreateShortcutUM|Create Shortcut for Upgrade Manager||
  mnuToolsRecalculate|&Recalculate Totals|F11|
