@@ -29,12 +29,21 @@ float TwipsOf(const QString& value) {
   return value.isEmpty() ? 0 : OffsetInTwips(value);
 }
 
+/// As many decimals as anybody types, where they give these twips back: through the twips 7.82 inches come
+/// back as 7.8199997.
+float InchesOf(float twips) {
+  constexpr double hundredThousand = 100000;
+  const double exact = double{twips} / double{TwipsPerInch};
+  const auto typed = static_cast<float>(std::round(exact * hundredThousand) / hundredThousand);
+  return typed * TwipsPerInch == twips ? typed : static_cast<float>(exact);
+}
+
 QString Shown(float twips) {
-  return FormatNumber(twips / TwipsPerInch, patterns::Inches);
+  return FormatNumber(InchesOf(twips), patterns::Inches);
 }
 
 QByteArray Line(const QString& key, float twips) {
-  return (key + StrText(twips / TwipsPerInch)).toLatin1() + "\r\n";
+  return (key + StrText(InchesOf(twips))).toLatin1() + "\r\n";
 }
 
 void ReadOffsets() {

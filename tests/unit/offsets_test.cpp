@@ -44,14 +44,13 @@ TEST_F(Offsets, AreWrittenInTheShortestFormAndReadBackTheSame) {
   EXPECT_TRUE(desk.said.isEmpty());
 }
 
-TEST_F(Offsets, KeepEveryHundredthOfAnInchThroughTheFile) {
+TEST_F(Offsets, AreWrittenAsTheyWereTyped) {
   for (int hundredths = -849; hundredths < 850; ++hundredths) {
-    const QString typed = QString::number(hundredths / 100.0, 'f', 2);
-    const float twips = OffsetInTwips(typed);
-    const QByteArray lines = OffsetLines(twips, 0);
-    EXPECT_LT(lines.indexOf('\r'), 23) << lines.constData();
-    Put(file, lines);
-    EXPECT_EQ(OffsetsToShow().x, typed == QLatin1String("-0.00") ? QStringLiteral("0.00") : typed);
+    QString typed = QString::number(hundredths / 100.0);
+    const QByteArray lines = OffsetLines(OffsetInTwips(typed), 0);
+    typed.replace(QLatin1String("0."), QLatin1String("."));
+    if (hundredths >= 0) typed.prepend(QLatin1Char(' '));
+    ASSERT_EQ(lines.left(lines.indexOf('\r')).toStdString(), "Printer X Offset:" + typed.toStdString());
   }
 }
 
