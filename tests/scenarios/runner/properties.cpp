@@ -104,7 +104,8 @@ std::optional<QString> EntryOf(const QWidget& widget) {
   if (const auto* edit = As<QLineEdit>(widget)) return edit->text();
   if (const auto* edit = As<QPlainTextEdit>(widget)) return edit->toPlainText();
   if (const auto* edit = As<QTextEdit>(widget)) return edit->toPlainText();
-  if (const auto* box = As<QComboBox>(widget)) return box->currentText();
+  if (const auto* box = As<QComboBox>(widget))
+    return box->currentIndex() < 0 && !box->isEditable() ? box->placeholderText() : box->currentText();
   if (const auto* spin = As<QAbstractSpinBox>(widget)) return spin->text();
   if (const auto* view = As<QAbstractItemView>(widget)) return view->currentIndex().data().toString();
   return std::nullopt;
