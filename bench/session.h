@@ -9,7 +9,8 @@
 
 namespace quillane::bench {
 
-/// Says Yes to every question and tells what it was asked, since nothing that is measured should ask.
+/// Says Yes to every question and tells what it was asked, since nothing that is measured should ask.  That a file
+/// was saved is no surprise.
 class BenchDesk : public QtDesk {
  public:
   Answer MessageBox(const QString& text, const QString& title, Buttons buttons) override;
@@ -33,6 +34,9 @@ void StartAndClickAway(Program& program, QtDesk& desk, const std::function<void(
 
 /// Serves the event loop until nothing is left to paint.
 void Settle();
+
+/// Serves the event loop until a window has the keyboard.
+void Activate(QWidget& window);
 
 /// Opens a proposal of the proposal folder as a person does through the file dialog.
 void OpenProposal(const QString& fileName);

@@ -26,7 +26,7 @@ int RunAsChild(const char* programFolder) {
     Report("opened");
     PrintAllCommand();
     Report("printed");
-    QApplication::quit();
+    QApplication::exit();
   });
   return 0;
 }
