@@ -9,8 +9,8 @@
 
 namespace quillane::bench {
 
-/// Says Yes to every question and tells what it was asked, since nothing that is measured should ask.  That a file
-/// was saved is no surprise.
+/// Says Yes to every question and tells what it was asked, since nothing that is measured should ask.  That a
+/// file was saved is no surprise.
 class BenchDesk : public QtDesk {
  public:
   Answer MessageBox(const QString& text, const QString& title, Buttons buttons) override;

@@ -106,9 +106,12 @@ bool TotalsAreStale() {
   return frame()["cmdReCalc"].BackColor() == colors::Red;
 }
 
-bool InPreview() { return frame()["cmdPreview"].Caption() == ResumeCaption; }
+bool InPreview() {
+  return frame()["cmdPreview"].Caption() == ResumeCaption;
+}
 void MarkPreview(Preview preview) {
-  frame()["cmdPreview"].SetCaption(preview == Preview::Shows ? ResumeCaption : QStringLiteral("Print Preview"));
+  frame()["cmdPreview"].SetCaption(preview == Preview::Shows ? ResumeCaption
+                                                             : QStringLiteral("Print Preview"));
 }
 
 }  // namespace quillane
