@@ -16,6 +16,7 @@
 
 #include "print/print.h"
 #include "qt/icons.h"
+#include "qt/openers.h"
 #include "qt/pictures.h"
 #include "qt/printers.h"
 #include "qt/windows.h"
@@ -172,6 +173,7 @@ void QtDesk::SetClipboardText(const QString& text) {
 
 bool QtDesk::OpenExternally(const QString& target) {
   const bool isFile = QFileInfo::exists(target);
+  if (isFile && !DesktopOpens(target)) return false;
   return QDesktopServices::openUrl(isFile ? QUrl::fromLocalFile(target) : QUrl(target));
 }
 

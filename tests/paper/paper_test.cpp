@@ -106,6 +106,27 @@ TEST_F(Paper, EndsAmountsAtTheRightEdgeOfTheirColumn) {
   }
 }
 
+TEST_F(Paper, IsAsWideAsTheStatusBarSays) {
+  struct Case {
+    size_t area;
+    const char* text;
+  };
+  constexpr Case cases[] = {{0, "Garlands"}, {1, "Categories"}, {2, "Wisteria-and-smilax"}, {40, "1,250.75"}};
+  for (const Case& given : cases) {
+    const QString text = QString::fromLatin1(given.text);
+    Control& area = page(1).txt[given.area];
+    {
+      const Scoped building(editing.RebuildingPages, true);
+      area.SetText(text);
+      area.SetFontItalic(true);  // the user's own, which is the screen's only
+      area.SetFontBold(given.area == 1);
+    }
+    const std::vector<PdfWord> found = FindText(Print(1), text);
+    ASSERT_EQ(found.size(), 1U) << given.text;
+    EXPECT_NEAR(found[0].right - found[0].left, PrinterTextWidth(area, text) * 1440, 4) << given.text;
+  }
+}
+
 TEST_F(Paper, KeepsEveryCharacterOfTheCodePageAsText) {
   const QString text = QString::fromUtf8("Sofía Marín-Núñez – “€ 5” ½ Œuvre");
   {

@@ -1,0 +1,46 @@
+#include "qt/openers.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/files.h"
+
+using namespace quillane;
+
+namespace {
+
+/// A desktop that has a program for texts and for nothing else.
+class Openers : public testing::Test {
+ protected:
+  QTemporaryDir folder;
+  const QByteArray path = qgetenv("PATH");
+
+  QString Path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
+  void SetUp() override {
+    ReplaceFile(Path("xdg-mime"), "#!/bin/sh\n[ \"$3\" = text/plain ] && echo editor.desktop\nexit 0\n");
+    QFile::setPermissions(Path("xdg-mime"), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    qputenv("PATH", QFile::encodeName(folder.path()));
+  }
+  void TearDown() override { qputenv("PATH", path); }
+};
+
+TEST_F(Openers, KnowWhatTheDesktopCannotOpen) {
+  struct Case {
+    const char *file, *bytes;
+    bool opens;
+  };
+  constexpr Case cases[] = {{"report.txt", "words", true},
+                            {"page.html", "<html></html>", true},  // a text too
+                            {"report.odt", "PK", false},
+                            {"sheet.pdf", "%PDF-1.4", false}};
+  for (const Case& given : cases) {
+    ReplaceFile(Path(given.file), given.bytes);
+    EXPECT_EQ(DesktopOpens(Path(given.file)), given.opens) << given.file;
+  }
+  QFile::remove(Path("xdg-mime"));
+  EXPECT_TRUE(DesktopOpens(Path("report.odt"))) << "nobody to ask";
+}
+
+}  // namespace
