@@ -2,6 +2,7 @@
 
 #include <QCache>
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPaintEngine>
@@ -60,7 +61,21 @@ QImage ReadImage(const QString& source) {
   return image;
 }
 
-QImage Rendered(const QString& source, QSize pixels) {
+/// The installed logo is a JPEG file because a logo must be one, with too few pixels for paper.  Where the
+/// file is still that one, byte for byte, the drawing that it was made from stands in for it.
+QString DrawingBehind(const QString& source) {
+  static const QByteArray installed = [] {
+    QFile logo(QStringLiteral(":/events.jpg"));
+    return logo.open(QIODevice::ReadOnly) ? logo.readAll() : QByteArray();
+  }();
+  QFile file(source);
+  if (file.size() != installed.size() || !file.open(QIODevice::ReadOnly) || file.readAll() != installed)
+    return source;
+  return QStringLiteral(":/events.svg");
+}
+
+QImage Rendered(const QString& given, QSize pixels) {
+  const QString source = DrawingBehind(given);
   if (!IsDrawing(source))
     return ReadImage(source).scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -104,8 +119,8 @@ void DrawPicture(QPainter& painter, const QString& source, const QRectF& target)
     const QSize pixels = device.size().toSize().expandedTo(QSize(1, 1));
     CheckSize(pixels, source);
     painter.drawImage(target, Scaled(source, pixels));
-  } else if (IsDrawing(source)) {
-    Drawing(source).render(&painter, target);
+  } else if (const QString drawing = DrawingBehind(source); IsDrawing(drawing)) {
+    Drawing(drawing).render(&painter, target);
   } else {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(target, ReadImage(source));
