@@ -5,50 +5,28 @@
 
 #include "files/event_file.h"
 #include "model/focus.h"
-#include "model/frame.h"
 #include "model/proposal.h"
 #include "model/selection.h"
 #include "pages/areas.h"
-#include "pages/defaults.h"
 #include "pages/features.h"
 #include "pages/row_contents.h"
 #include "pages/selection.h"
 #include "pages/totals.h"
-#include "platform/codepage.h"
 #include "platform/numbers.h"
 #include "unit/fake_desk.h"
+#include "unit/item_pages.h"
 
 using namespace quillane;
 using quillane::test::FakeDesk;
+using quillane::test::MakeItemPages;
 
 namespace {
 
 class Planner {
  public:
   Planner() {
-    ResetState();
-    prefs.CurrencySymbol = QStringLiteral("$");
+    MakeItemPages();
     tax.TaxRate = 7.5F;
-    for (const char* entry :
-         {"mnuEditTextColumns", "mnuEditTextBold", "mnuEditTextNormal", "mnuEditTextSelLCase",
-          "mnuEditTextSelPCase", "mnuEditTextSelUCase", "mnuEditTextAddFUT", "mnuEditTextEditFUT",
-          "mnuEditTextDeleteFUT", "mnuEditTextDelete", "mnuEditTextUndo", "mnuEditTextCopy", "mnuEditTextCut",
-          "mnuEditTextPaste", "mnuEditTextMoveDown", "mnuEditTextMoveUp", "mnuEditTextTaxExempt",
-          "mnuEditTextTaxable", "mnuEditTextDeselect"})
-      frame().AddMenu(QString::fromLatin1(entry), QString());
-    {
-      Scoped building(editing.RebuildingPages, true);
-      SetUpPages();
-      ShowDefaultPages();
-      for (int window = 0; window < ItemPages; ++window) {
-        LoadColumns(page(window));
-        for (Control& area : page(window).txt) {
-          area.SetVisible(true);
-          if (page(window).IsAmount(area.Index())) page(window).CurrencyLabel(area.Index()).SetShown(false);
-        }
-      }
-    }
-    InstallPageHandlers();
   }
 
   QString Step() {

@@ -5,39 +5,20 @@
 #include "model/proposal.h"
 #include "model/selection.h"
 #include "pages/areas.h"
-#include "pages/defaults.h"
 #include "pages/row_contents.h"
 #include "pages/totals.h"
 #include "unit/fake_desk.h"
+#include "unit/item_pages.h"
 
 using namespace quillane;
 using quillane::test::FakeDesk;
+using quillane::test::MakeItemPages;
 
 namespace {
 
 class Selection : public testing::Test {
  protected:
-  Selection() {
-    ResetState();
-    prefs.CurrencySymbol = QStringLiteral("$");
-    for (const char* entry :
-         {"mnuEditTextColumns", "mnuEditTextBold", "mnuEditTextNormal", "mnuEditTextSelLCase",
-          "mnuEditTextSelPCase", "mnuEditTextSelUCase", "mnuEditTextAddFUT", "mnuEditTextEditFUT",
-          "mnuEditTextDeleteFUT", "mnuEditTextDelete", "mnuEditTextUndo", "mnuEditTextCopy", "mnuEditTextCut",
-          "mnuEditTextPaste", "mnuEditTextMoveDown", "mnuEditTextMoveUp", "mnuEditTextTaxExempt",
-          "mnuEditTextTaxable", "mnuEditTextDeselect"})
-      frame().AddMenu(QString::fromLatin1(entry), QString());
-    {
-      Scoped building(editing.RebuildingPages, true);
-      SetUpPages();
-      ShowDefaultPages();
-      for (int window = 0; window < ItemPages; ++window) {
-        LoadColumns(page(window));
-        for (Control& area : page(window).txt) area.SetVisible(true);
-      }
-    }
-    InstallPageHandlers();
-  }
+  Selection() { MakeItemPages(); }
 
   // A row as a planner leaves it: text, amount, and where asked columns, weight and the exemption mark.
   static void Fill(int window, int row, const QString& text, const QString& amount, bool columns = false,
