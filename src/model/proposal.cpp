@@ -21,6 +21,8 @@ void ResetState() {
   editing = {};
   proposal = {};
   format = {};
+  labelEdit = {};
+  layoutAids = {};
   printing = {};
   tax = {};
   fileDialog = {};

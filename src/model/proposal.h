@@ -155,6 +155,34 @@ struct EditingState {
   float ScreenScale = 0;  ///< client height of the frame divided by the sheet's
 };
 
+/// The label last pressed, and what the label dialog does with it or with a selection of labels.
+struct LabelEditState {
+  int CurrentLabel = 0;  ///< index of the label last pressed, on editing.CurrentForm
+  LabelRecord CurrentLabelRec;
+  int LabelCount = 0;  ///< highest label index of the page
+  QString LabelCaption;
+  float LabelFontSize = 0;  ///< points
+  bool LabelBold = false;
+  Color LabelColor = 0;
+  bool SizeChanged = false, PropChanged = false, ColorChanged = false, ItalicChanged = false,
+       UnderlineChanged = false;
+  bool MultipleLabelsSelected = false, LabelDialogCancelled = false;
+  bool LabelColorMode = false;  ///< frmRGB colours the labels, not the user's font
+};
+
+/// A point of the grid, twips on the sheet.
+struct GridPoint {
+  float x = 0, y = 0;
+  bool operator==(const GridPoint&) const = default;
+};
+
+/// What helps to lay labels out, on the screen only.
+struct LayoutAids {
+  float SnapValue = 180;                    ///< twips that a dragged label jumps by; the grid's step
+  std::vector<GridPoint> GridPoints;        ///< drawn by the last DrawGrid; grows with each point
+  std::array<bool, PageCount> gridDrawn{};  ///< by window: its centre lines and points show
+};
+
 struct PrintState {
   float PrinterXOffset = 0, PrinterYOffset = 0;  ///< twips
   bool PrintCancelled = false;
@@ -217,6 +245,8 @@ struct TermsState {
 inline ProposalState proposal;
 inline FormatState format;
 inline EditingState editing;
+inline LabelEditState labelEdit;
+inline LayoutAids layoutAids;
 inline PrintState printing;
 inline TaxState tax;
 inline Preferences prefs;
