@@ -1,6 +1,7 @@
 // How the main window is put together.
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
@@ -57,6 +58,22 @@ class CaptionButton : public QPushButton {
     return {qMax(fontMetrics().horizontalAdvance(words), fontMetrics().horizontalAdvance(text())) + room, 30};
   }
   QString longest_;
+};
+
+/// A drawing that does nothing.  It is painted anew each time, so that it follows the desktop's colours and
+/// the scale of the screen that the window is on.
+class Decoration : public QWidget {
+ public:
+  explicit Decoration(QIcon icon) : icon_(std::move(icon)) { setFixedSize(TextSize, TextSize); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    icon_.paint(&painter, rect());
+  }
+
+ private:
+  QIcon icon_;
 };
 
 QString LongestCaption(const QString& button) {
@@ -127,8 +144,7 @@ void FrameWindow::AddImage(QHBoxLayout& row, const QString& name, int size) {
 }
 
 void FrameWindow::AddDecoration(QHBoxLayout& row, const QString& name) {
-  auto* image = new QLabel;
-  image->setPixmap(IconOf(DrawingOf(name)).pixmap({TextSize, TextSize}, devicePixelRatio()));
+  auto* image = new Decoration(IconOf(DrawingOf(name)));
   row.addWidget(image);
   image->setObjectName(name);
 }

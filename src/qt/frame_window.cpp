@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -57,6 +58,7 @@ FrameWindow::FrameWindow() {
   rows->addWidget(MakeStatusBar());
   setCentralWidget(centre);
   menus_ = std::make_unique<Menus>(*menuBar());
+  AddPageKeys();
   ConnectModel();
   qApp->installEventFilter(this);
 }
@@ -66,6 +68,17 @@ FrameWindow::~FrameWindow() {
   frame().form.observer = nullptr;
   frame().sheetMoved = nullptr;
   frame().pageBroughtToFront = nullptr;
+}
+
+/// What the page buttons are to the pointer: Ctrl with Page Up and Page Down turns to the page beside.
+void FrameWindow::AddPageKeys() {
+  for (const auto& [key, step] : {std::pair{Qt::Key_PageUp, -1}, std::pair{Qt::Key_PageDown, 1}}) {
+    auto* turn = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+    connect(turn, &QShortcut::activated, this, [step = step] {
+      const int beside = editing.FrontWindow + step;
+      if (beside >= 0 && beside < PageCount) FrameClicked(QStringLiteral("imgPage(%1)").arg(beside));
+    });
+  }
 }
 
 void FrameWindow::ConnectModel() {

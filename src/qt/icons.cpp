@@ -18,18 +18,22 @@ bool GroundIsDark() {
   return QApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-/// The drawings are made for a light ground; on a dark one their grey lines become light ones.
+/// The drawings are made for a light ground.  On a dark one their grey lines become light ones, and the
+/// sheets are left unfilled, since a light figure on white could not be read.
 QByteArray DrawingFor(const QString& source) {
   QFile file(source);
   if (!file.open(QIODevice::ReadOnly)) return {};
   QByteArray svg = file.readAll();
-  if (GroundIsDark()) svg.replace("#6b7787", "#c3cbd6");
+  if (GroundIsDark()) {
+    svg.replace("fill=\"#ffffff\"", "fill=\"none\"");
+    svg.replace("#737f90", "#c3cbd6");
+  }
   return svg;
 }
 
 /// Stands in for a drawing that is missing, so that its button can still be found.
 void PaintFallback(QPainter& painter, const QRectF& place) {
-  painter.setPen(QPen(QColor(0x6b, 0x77, 0x87), place.width() / 14));
+  painter.setPen(QPen(QColor(0x73, 0x7f, 0x90), place.width() / 14));
   painter.drawRoundedRect(place.adjusted(3, 3, -3, -3), 3, 3);
 }
 
