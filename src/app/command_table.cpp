@@ -5,11 +5,13 @@
 #include "files/event_file.h"
 #include "files/export.h"
 #include "files/file_dialog.h"
+#include "files/logo.h"
 #include "files/new_proposal.h"
 #include "model/proposal.h"
 #include "pages/areas.h"
 #include "pages/selection.h"
 #include "pages/totals.h"
+#include "pages/user_font.h"
 #include "print/pdf_file.h"
 #include "print/preview.h"
 #include "print/print.h"
@@ -107,7 +109,8 @@ const std::vector<Command> FileEntries = {
 const std::vector<Command> EditEntries = {
     Menu("", "mnuEdit", "&Edit"),
     Entry("mnuEdit", "mnuEditCompInfo", "Edit Company Info", "", nullptr),
-    Entry("mnuEdit", "mnuEditTitles", "Proposal Page Titles and Subtitles", "", nullptr),
+    Entry("mnuEdit", "mnuEditTitles", "Proposal Page Titles and Subtitles", "",
+          [] { desk().ShowWindow(QStringLiteral("frmTitle"), Modality::Modal); }),
     Rule("mnuEdit"),
     Entry("mnuEdit", "mnuEditSpellCheck", "Chec&k Spelling", "", nullptr),
     Entry("mnuEdit", "mnuEditFind", "&Find", "Ctrl+F", nullptr),
@@ -156,11 +159,13 @@ const std::vector<Command> EditEntries = {
     Entry("mnuEditLabel", "mnuEditLabelSelectAll", "&Select All", "", nullptr),
     Entry("mnuEditLabel", "mnuEditLabelDeselectAll", "&DeSelect All", "", nullptr),
     Menu("mnuEditCtrl", "mnuEditLogo", "Logo"),
-    Entry("mnuEditLogo", "mnuEditLogoOpen", "Select Different Logo", "", nullptr),
-    Entry("mnuEditLogo", "mnuEditLogoSave", "Save this Logo as Default", "", nullptr),
-    Checkable(Entry("mnuEditLogo", "mnuEditLogoVisible", "Show Logo", "", nullptr), Check::On),
-    Checkable(Entry("mnuEditLogo", "mnuEditLogoBorder", "Show Logo with Border", "", nullptr), Check::Off),
-    Entry("mnuEditCtrl", "mnuEditAllTextFonts", "Edit &All Text Area Fonts", "", nullptr),
+    Entry("mnuEditLogo", "mnuEditLogoOpen", "Select Different Logo", "", OpenLogoCommand),
+    Entry("mnuEditLogo", "mnuEditLogoSave", "Save this Logo as Default", "", SaveLogoAsDefault),
+    Checkable(Entry("mnuEditLogo", "mnuEditLogoVisible", "Show Logo", "", ToggleLogoVisible), Check::On),
+    Checkable(Entry("mnuEditLogo", "mnuEditLogoBorder", "Show Logo with Border", "", ToggleLogoBorder),
+              Check::Off),
+    Entry("mnuEditCtrl", "mnuEditAllTextFonts", "Edit &All Text Area Fonts", "",
+          [] { desk().ShowWindow(QStringLiteral("frmTextProps"), Modality::Modal); }),
 };
 
 const std::vector<Command> ViewEntries = {
@@ -201,7 +206,7 @@ const std::vector<Command> OptionEntries = {
         Entry("mnuOpt", "mnuOptUnderline", "Underline Main Categories when Printing", "", ToggleUnderline),
         Check::Off),
     Entry("mnuOpt", "mnuOptSetDefaultFonts", "Save Current Font Properties as Default", "",
-          SaveDefaultFontCommand),
+          [] { MakeUserFontDefault(); }),
     Entry("mnuOpt", "mnuOptEmptyBackup", "Empty Backup Folder", "", EmptyBackupCommand),
 };
 

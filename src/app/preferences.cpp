@@ -303,6 +303,13 @@ std::optional<QChar> DriveLetterIn(const QString& answer) {
   return answer[0].toUpper();
 }
 
+Setting SettingOf(const QString& key) {
+  const auto found =
+      std::find_if(Keys.begin(), Keys.end(), [&](const char* own) { return key == QLatin1String(own); });
+  if (found == Keys.end()) Raise(errors::InvalidProcedureCall, key);
+  return static_cast<Setting>(found - Keys.begin());
+}
+
 }  // namespace
 
 QString SettingKey(Setting setting) {
@@ -347,10 +354,14 @@ Saved StorePreference(Setting setting, const QString& value) {
 }
 
 Saved StorePreference(const QString& key, const QString& value) {
-  const auto found =
-      std::find_if(Keys.begin(), Keys.end(), [&](const char* own) { return key == QLatin1String(own); });
-  if (found == Keys.end()) Raise(errors::InvalidProcedureCall, key);
-  return StorePreference(static_cast<Setting>(found - Keys.begin()), value);
+  return StorePreference(SettingOf(key), value);
+}
+
+Saved StorePreferences(const PreferenceValues& values) {
+  for (const auto& [key, value] : values) SetPrefLine(SettingOf(key), value);
+  const Saved saved = SaveUserPreferences();
+  GetUserPreferences();
+  return saved;
 }
 
 void RequestNetworkSharePath() {
@@ -390,16 +401,6 @@ void CurrencySymbolCommand() {
   } catch (const RuntimeError& error) {
     ReportInOwnWords(QStringLiteral("Error encountered while creating new Currency Symbol."), error);
   }
-}
-
-void SaveDefaultFontCommand() {
-  prefs.DefaultFont = proposal.UDP;
-  SetPrefLine(Setting::FontName, proposal.UDP.FontName);
-  SetPrefLine(Setting::FontSize, SingleText(proposal.UDP.FontSize));
-  SetPrefLine(Setting::FontColor, QString::number(proposal.UDP.FontColor));
-  SetPrefLine(Setting::FontItalic, BooleanText(proposal.UDP.FontItalic));
-  SaveUserPreferences();
-  GetUserPreferences();
 }
 
 PreferenceBoxes BoxesFromPreferences() {

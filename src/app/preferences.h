@@ -2,6 +2,8 @@
 #pragma once
 #include <QString>
 
+#include "model/upcalls.h"
+
 namespace quillane {
 
 /// The 32 settings, by their place in the file.
@@ -58,6 +60,8 @@ void SetPrefLine(Setting setting, const QString& value);
 Saved StorePreference(Setting setting, const QString& value);
 /// The same for a line that is known by its key, "Default Printer:".  Throws 5 for a key that no line has.
 Saved StorePreference(const QString& key, const QString& value);
+/// The same for several lines by their keys, written in one go.
+Saved StorePreferences(const PreferenceValues& values);
 /// "True" or "False".
 QString BooleanText(bool value);
 
@@ -65,8 +69,6 @@ QString BooleanText(bool value);
 void RequestNetworkSharePath();
 /// mnuOptCurrencySymbol.
 void CurrencySymbolCommand();
-/// mnuOptSetDefaultFonts: the font in use becomes the default.
-void SaveDefaultFontCommand();
 
 /// The rules of frmPref: what its boxes show at first, and what cmdSave stores.  Several boxes say "Do Not"
 /// and so are checked when their setting is false.

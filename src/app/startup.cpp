@@ -220,6 +220,9 @@ void ConnectLayers() {
   calls.StorePreference = [](const QString& key, const QString& value) {
     return StorePreference(key, value) == Saved::Yes;
   };
+  calls.StorePreferences = [](const PreferenceValues& values) {
+    return StorePreferences(values) == Saved::Yes;
+  };
   calls.SetEditMenuState = [](const QString&) { SetEditMenuState(); };
   frame().VScroll1.Value.changed = [](int value) { ScrollChanged(value); };
   InstallPageHandlers();

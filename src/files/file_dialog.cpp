@@ -4,6 +4,7 @@
 #include <QStorageInfo>
 
 #include "files/event_file.h"
+#include "files/logo.h"
 #include "files/new_proposal.h"
 #include "files/small_files.h"
 #include "model/proposal.h"
@@ -56,11 +57,9 @@ QStringList DriveLetters() {
 
 // Kinds of files whose readers are not part of this version.
 QString NotYet(const QString& filter) {
-  if (filter == QLatin1String("*.wft"))
-    return QStringLiteral("Format files cannot be opened in this version.");
-  if (filter == QLatin1String("*.fut"))
-    return QStringLiteral("Frequent terms cannot be opened in this version.");
-  return QStringLiteral("A logo cannot be chosen in this version.");
+  return filter == QLatin1String("*.wft")
+             ? QStringLiteral("Format files cannot be opened in this version.")
+             : QStringLiteral("Frequent terms cannot be opened in this version.");
 }
 
 }  // namespace
@@ -187,6 +186,8 @@ void FileDialog::OpenPicked() {
     OpenEventFile();
   else if (filter == QLatin1String("*.txt"))
     ReadTextFile(folder + openFileName);
+  else if (filter == LogoFilter)
+    ChooseLogo(folder + openFileName);
   else
     Tell(NotYet(filter));
 }

@@ -1,8 +1,15 @@
 // The logo of the first page: where it comes from, where it stands, and whether it shows.
+#include "files/logo.h"
+
+#include <QFileInfo>
+
 #include "files/new_proposal.h"
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "model/upcalls.h"
 #include "platform/files.h"
+#include "platform/numbers.h"
+#include "platform/runtime_error.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -36,10 +43,12 @@ LogoChoice LogoUnderFormat() {
 
 LogoChoice LogoWithoutFormat() {
   if (prefs.LogoFile.isEmpty()) return {};
-  // The installed logo lies in the program's folder; any other bare name is looked up where the program was
-  // started.
-  if (prefs.LogoFile == QLatin1String("events.jpg"))
-    return PreferredLogo(prefs.ProgramFolder + prefs.LogoFile);
+  // The installed logo lies in the program's folder, and so do others that are named without a folder; one
+  // that is not there is looked up where the program was started.
+  const bool inProgramFolder =
+      prefs.LogoFile == QLatin1String("events.jpg") ||
+      (!HasFolder(prefs.LogoFile) && FileExists(prefs.ProgramFolder, prefs.LogoFile));
+  if (inProgramFolder) return PreferredLogo(prefs.ProgramFolder + prefs.LogoFile);
   return PreferredLogo(ResolvePath(prefs.LogoFile));
 }
 
@@ -55,7 +64,84 @@ void ShowPicture(const Picture& picture) {
   CheckMenu("mnuEditLogoVisible", shown);
 }
 
+bool HasLogo() {
+  if (!page(0).pic[0].GetPicture().source.isEmpty()) return true;
+  Tell(QStringLiteral("There is no logo on page 1. Choose one with \"Select Different Logo\" first."));
+  return false;
+}
+
+/// Remembers where the logo stands, for the proposal and for a format that is made of it.
+void TakePlace() {
+  const Control& pic = page(0).pic[0];
+  proposal.LogoLeft = format.LogoLeft = pic.Left();
+  proposal.LogoTop = format.LogoTop = pic.Top();
+}
+
+void TellUnreadable(const QString& path) {
+  Tell(QStringLiteral("\"%1\" cannot be used as a logo. It is damaged, too large, or not a picture at all.\n"
+                      "The logo of this proposal stays as it is.")
+           .arg(QFileInfo(path).fileName()));
+}
+
 }  // namespace
+
+void OpenLogoCommand() {
+  fileDialog.FormatMode = true;  // a picture has no properties beside it
+  fileDialog.FileFilter = LogoFilter;
+  fileDialog.Caption = QStringLiteral("Opening Graphics File...");
+  desk().ShowWindow(QStringLiteral("frmFile"), Modality::Modal);
+}
+
+void ChooseLogo(const QString& path) {
+  Picture picture;
+  try {
+    picture = desk().LoadPicture(path);
+  } catch (const RuntimeError&) {
+    return TellUnreadable(path);
+  }
+  Control& pic = page(0).pic[0];
+  if (pic.GetPicture().source.isEmpty()) {
+    pic.SetLeft(prefs.LogoLeft);
+    pic.SetTop(prefs.LogoTop);
+  }
+  proposal.LogoPath = format.LogoPath = path;
+  format.LogoChanged = true;
+  TakePlace();
+  ShowPicture(picture);
+}
+
+void SaveLogoAsDefault() {
+  if (!HasLogo()) return;
+  const Control& pic = page(0).pic[0];
+  const QString path = pic.GetPicture().source;
+  if (format.FormatIsOpen && format.LogoPath.isEmpty()) {
+    format.LogoPath = path;
+    format.LogoChanged = true;
+  }
+  TakePlace();
+  upcalls().StorePreferences({{QStringLiteral("Logo File:"), path},
+                              {QStringLiteral("Logo Left:"), SingleText(pic.Left())},
+                              {QStringLiteral("Logo Top:"), SingleText(pic.Top())}});
+}
+
+void ToggleLogoVisible() {
+  if (!HasLogo()) return;
+  const bool shown = !page(0).pic[0].Hidden();
+  upcalls().StorePreference(QStringLiteral("Logo Visible:"),
+                            shown ? QStringLiteral("False") : QStringLiteral("True"));
+  ShowPicture(page(0).pic[0].GetPicture());  // by the setting as the file has it now
+}
+
+void ToggleLogoBorder() {
+  const bool border = !frame()[QStringLiteral("mnuEditLogoBorder")].Checked();
+  CheckMenu("mnuEditLogoBorder", border);
+  Control& pic = page(0).pic[0];
+  if (border && pic.Hidden()) return ToggleLogoVisible();
+  // Hidden and shown again, so that its rectangle is painted anew.
+  const bool visible = pic.Visible();
+  pic.SetVisible(false);
+  pic.SetVisible(visible);
+}
 
 void LoadLogo() {
   ShowPicture({});

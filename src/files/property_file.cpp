@@ -244,18 +244,4 @@ void CopyLabelsToRecords() {
   }
 }
 
-void ApplyUserFont() {
-  const Scoped applying(editing.ApplyingFonts, true);
-  const UserFont& font = proposal.UDP;
-  for (int window = 0; window < ItemPages; ++window) {
-    SetMyFonts(page(window));
-    for (auto* array : {&page(window).lblAt, &page(window).lblEach}) {
-      for (Control& label : *array) {
-        label.SetFont({font.FontName, font.FontSize, false, font.FontItalic, false});
-        label.SetForeColor(font.FontColor);
-      }
-    }
-  }
-}
-
 }  // namespace quillane

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "pages/user_font.h"
+
 namespace quillane {
 
 /// Builds proposal.PropertyLines from the tables and clears the marks that it has taken.
@@ -19,7 +21,5 @@ void ReadFileProperties();
 void ParsePropertyFile();
 /// Stores every label of every page in the table that printing reads.
 void CopyLabelsToRecords();
-/// Gives every area and column of pages 1 to 5 the font in proposal.UDP; bold stays with the area.
-void ApplyUserFont();
 
 }  // namespace quillane

@@ -3,10 +3,15 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <utility>
+#include <vector>
 
 namespace quillane {
 
 class Control;
+
+/// Lines of the preferences by their keys: {"Logo Top:", "540"}.
+using PreferenceValues = std::vector<std::pair<QString, QString>>;
 
 struct Upcalls {
   void (*UpdatePageButtons)(int window) = [](int) {};  ///< app: bring a page to the front
@@ -22,6 +27,8 @@ struct Upcalls {
   bool (*StorePreference)(const QString& key, const QString& value) = [](const QString&, const QString&) {
     return false;
   };
+  /// app: the same for several lines that belong together, in one writing of the file.
+  bool (*StorePreferences)(const PreferenceValues& values) = [](const PreferenceValues&) { return false; };
   /// qt: a report as the bytes of an OpenDocument text.
   QByteArray (*WordDocument)(const QString& title, const QString& report) =
       [](const QString&, const QString&) { return QByteArray(); };

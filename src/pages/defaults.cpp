@@ -158,7 +158,8 @@ void SetMyFonts(Page& page) {
     for (Control& area : *array) {
       area.SetFont(
           {user.FontName, user.FontSize, area.GetFont().bold, user.FontItalic, area.GetFont().underline});
-      area.SetForeColor(user.FontColor);
+      // A selected area stays white on blue, and takes the colour when it is deselected.
+      if (area.BackColor() != colors::Blue) area.SetForeColor(user.FontColor);
     }
   for (auto* array : {&page.lblAt, &page.lblEach})
     for (Control& label : *array) label.SetFontName(QStringLiteral("Arial"));

@@ -5,10 +5,14 @@
 
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "model/upcalls.h"
+#include "platform/codepage.h"
 
 namespace quillane {
 
 namespace {
+
+const QString TitleWithoutName = QStringLiteral("Proposal for (Client's Name)");
 
 LabelRecord& RecordOf(const Page& page, const Control& label) {
   return proposal.LabelRec[static_cast<size_t>(page.pageIndex)][static_cast<size_t>(label.Index())];
@@ -71,6 +75,11 @@ QString FrameCaption() {
   return QStringLiteral("Quillane: Format File = ") + format.FormatName + QStringLiteral(" / ") + file;
 }
 
+/// Empty without a name; then the labels say that one is to come.
+QString TitleByName() {
+  return proposal.BaseName.isEmpty() ? QString() : QStringLiteral("Proposal for ") + proposal.BaseName;
+}
+
 }  // namespace
 
 void FindHighestPage() {
@@ -100,7 +109,7 @@ void UpdatePageNumbers(Titles titles) {
 }
 
 void UpdateEventNameLabels() {
-  if (proposal.Title.isEmpty()) proposal.Title = QStringLiteral("Proposal for (Client's Name)");
+  if (proposal.Title.isEmpty()) proposal.Title = TitleWithoutName;
   for (int window = 0; window < PageCount; ++window) {
     Page& current = page(window);
     Control& label = current.lbl.back();
@@ -113,6 +122,25 @@ void UpdateEventNameLabels() {
   event.SetCaption(QStringLiteral("Title: ") + proposal.Title);
   event.SetVisible(true);
   frame().form.caption = FrameCaption();
+}
+
+ProposalTitles TitlesToEdit() {
+  return {page(0).lbl.back().Caption(), proposal.SubTitle};
+}
+
+void SaveTitles(const ProposalTitles& titles) {
+  const QString title = FoldToCodePage(titles.title);
+  const bool follows = title.trimmed().isEmpty() || title == TitleByName() || title == TitleWithoutName;
+  proposal.SubTitle = FoldToCodePage(titles.subTitle);
+  proposal.TitleByHand = !follows;
+  proposal.Title = follows ? TitleByName() : title;
+  UpdateEventNameLabels();
+  FindHighestPage();
+  UpdatePageNumbers(Titles::Reset);
+}
+
+bool MakeSubTitleDefault(const QString& subTitle) {
+  return upcalls().StorePreference(QStringLiteral("Page Titles:"), subTitle);
 }
 
 }  // namespace quillane

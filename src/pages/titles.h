@@ -1,5 +1,6 @@
 // Titles and page numbers, and how many pages are in use.
 #pragma once
+#include <QString>
 
 namespace quillane {
 
@@ -12,5 +13,17 @@ void UpdatePageNumbers(Titles titles = Titles::Keep);
 /// a changed label of frmP1, so that the property file keeps it; a title that only follows the client's name
 /// marks nothing.
 void UpdateEventNameLabels();
+
+/// The boxes of frmTitle.
+struct ProposalTitles {
+  QString title, subTitle;
+};
+ProposalTitles TitlesToEdit();
+/// Writes both on all pages.  An empty title, or the one that follows the client's name, follows it again;
+/// any other is made by hand and stays until New or Open.
+void SaveTitles(const ProposalTitles& titles);
+/// New proposals begin with this subtitle.  False when the preferences could not be written, which has been
+/// told.
+bool MakeSubTitleDefault(const QString& subTitle);
 
 }  // namespace quillane

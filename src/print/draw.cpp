@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/frame.h"
 #include "model/proposal.h"
 
 namespace quillane {
@@ -63,7 +64,8 @@ void DrawLogo(Surface& surface, const Control& logo, DrawMode mode) {
   // The printer's offsets do not move the logo: what the origin takes away is added again.
   surface.PaintPicture(picture, logo.Left() + surface.ScaleLeft(), logo.Top() + surface.ScaleTop(),
                        picture.width, picture.height);
-  if (mode == DrawMode::Editing)
+  const Control* border = frame().Find(QStringLiteral("mnuEditLogoBorder"));
+  if (mode == DrawMode::Editing && border && border->Checked())
     Outline(surface, {logo.Left(), logo.Top(), picture.width, picture.height}, BorderColor);
 }
 

@@ -17,7 +17,9 @@ namespace quillane {
 
 namespace {
 
-constexpr qint64 MostPixels = 100'000'000;  // a damaged or hostile header must not take all the memory
+// A damaged or hostile header must not take all the memory; what passes can be decoded within the toolkit's
+// own limit of 128 MB a picture.
+constexpr qint64 MostPixels = 30'000'000;
 constexpr float TwipsPerPixel = 15;
 constexpr qsizetype CacheKilobytes = 16 * 1024;
 
@@ -50,12 +52,14 @@ QSize SizeOnDisplay(const QImageReader& reader) {
   return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90) ? size.transposed() : size;
 }
 
-QImage ReadImage(const QString& source) {
+/// The picture, in at most `most` pixels each way; some formats are then much quicker to read.
+QImage ReadImage(const QString& source, QSize most = {}) {
   if (!QFileInfo::exists(source)) Raise(errors::FileNotFound, source);
   QImageReader reader(source);
   reader.setAutoTransform(true);
   reader.setDecideFormatFromContent(true);
   CheckSize(reader.size(), source);
+  if (!most.isEmpty()) reader.setScaledSize(reader.size().boundedTo(most));
   QImage image = reader.read();
   if (image.isNull()) Raise(errors::InvalidPicture, source);
   return image;
@@ -109,6 +113,9 @@ Picture ReadPicture(const QString& source) {
     size = SizeOnDisplay(reader);
   }
   CheckSize(size, source);
+  // A header says nothing about the rest of the file.
+  constexpr int probe = 64;
+  if (!IsDrawing(source)) ReadImage(source, {probe, probe});
   return {source, static_cast<float>(size.width()) * TwipsPerPixel,
           static_cast<float>(size.height()) * TwipsPerPixel};
 }

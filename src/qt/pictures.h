@@ -9,8 +9,9 @@ class QRectF;
 
 namespace quillane {
 
-/// The picture in a file or drawing with its natural size (a pixel is 15 twips), read from its header alone.
-/// Throws 53 when there is none, 481 when it cannot be read or has more than a hundred million pixels.
+/// The picture in a file or drawing with its natural size (a pixel is 15 twips).  It is read once in small,
+/// so that a damaged one is found out here.  Throws 53 when there is none, 481 when it cannot be read or has
+/// more than thirty million pixels.
 Picture ReadPicture(const QString& source);
 /// Paints it into a rectangle of the painter's own units.  On a screen it is scaled once for each size; on
 /// paper drawings stay drawings.  Throws as ReadPicture does.

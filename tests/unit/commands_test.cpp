@@ -68,7 +68,7 @@ mnuFileFormat|File &Format||
  mnuFileFormatDefault|Se&t Current Format as Default||d
 mnuEdit|&Edit||
  mnuEditCompInfo|Edit Company Info||d
- mnuEditTitles|Proposal Page Titles and Subtitles||d
+ mnuEditTitles|Proposal Page Titles and Subtitles||
  mnuEditSpellCheck|Chec&k Spelling||d
  mnuEditFind|&Find|Ctrl+F|d
 mnuEditCtrl|&Edit Control||
@@ -99,11 +99,11 @@ mnuEditCtrl|&Edit Control||
   mnuEditLabelSelectAll|&Select All||d
   mnuEditLabelDeselectAll|&DeSelect All||d
  mnuEditLogo|Logo||
-  mnuEditLogoOpen|Select Different Logo||d
-  mnuEditLogoSave|Save this Logo as Default||d
-  mnuEditLogoVisible|Show Logo||dc
-  mnuEditLogoBorder|Show Logo with Border||d
- mnuEditAllTextFonts|Edit &All Text Area Fonts||d
+  mnuEditLogoOpen|Select Different Logo||
+  mnuEditLogoSave|Save this Logo as Default||
+  mnuEditLogoVisible|Show Logo||c
+  mnuEditLogoBorder|Show Logo with Border||
+ mnuEditAllTextFonts|Edit &All Text Area Fonts||
 mnuView|&View||
  mnuViewEventDates|All Events by Date||d
  mnuViewExpiredEvents|Show Expired Events||d

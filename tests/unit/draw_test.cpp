@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/frame.h"
 #include "model/proposal.h"
 #include "recording_surface.h"
 
@@ -124,7 +125,11 @@ TEST(Draw, LeavesTheLogoWhereItStandsWhateverTheOffsets) {
   EXPECT_EQ(document.drawn[0].left, 720);
   EXPECT_EQ(document.drawn[0].top, 540);
   EXPECT_EQ(document.drawn[0].right, 3720);
+  frame().AddMenu("mnuEditLogoBorder", {}).SetChecked(true);
   EXPECT_GT(DrawnOf(logo, DrawMode::Editing, page(0)).drawn.size(), 1U) << "the border of the screen";
+  EXPECT_EQ(DrawnOf(logo, DrawMode::Printing, page(0)).drawn.size(), 1U);
+  CheckMenu("mnuEditLogoBorder", false);
+  EXPECT_EQ(DrawnOf(logo, DrawMode::Editing, page(0)).drawn.size(), 1U);
 }
 
 }  // namespace

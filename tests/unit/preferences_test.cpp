@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include "pages/user_font.h"
 #include "platform/runtime_error.h"
 #include "program_folder.h"
 
@@ -336,7 +337,11 @@ TEST_F(PreferencesFile, TheCurrencySymbolWaitsForTheNextProposal) {
 TEST_F(PreferencesFile, TheFontInUseBecomesTheDefault) {
   GetUserPreferences();
   proposal.UDP = {"Arial", 11.25f, 0xFF0000, false};
-  SaveDefaultFontCommand();
+  upcalls().StorePreferences = [](const PreferenceValues& values) {
+    return StorePreferences(values) == Saved::Yes;
+  };
+  EXPECT_TRUE(MakeUserFontDefault());
+  upcalls() = {};
   EXPECT_EQ(prefs.DefaultFont, proposal.UDP);
   EXPECT_TRUE(
       Get("UserPreferences.txt")

@@ -1,0 +1,82 @@
+// The proposal's title and subtitle.
+#include <QDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "model/report.h"
+#include "pages/titles.h"
+#include "qt/dialog_parts.h"
+#include "qt/windows.h"
+
+namespace quillane {
+
+namespace {
+
+/// A label, the box under it, and the button that clears the box.
+QLineEdit* AddTitle(QGridLayout& grid, int number, const QString& name, const QString& caption,
+                    const QString& text) {
+  auto* box = Named(new QLineEdit(text), name);
+  box->setMinimumWidth(box->fontMetrics().averageCharWidth() * 60);
+  auto* label = PlainLabel(QStringLiteral("lblTitle(%1)").arg(number), caption);
+  label->setBuddy(box);
+  box->setAccessibleName(caption);
+  auto* clear = Named(new QPushButton(QStringLiteral("Clear")), QStringLiteral("cmdClear(%1)").arg(number),
+                      QStringLiteral("Clear ") +
+                          (number == 0 ? QStringLiteral("the title") : QStringLiteral("the subtitle")));
+  clear->setAutoDefault(false);
+  QObject::connect(clear, &QPushButton::clicked, box, [box] {
+    box->clear();
+    box->setFocus();
+  });
+  const int row = 3 * number;
+  grid.addWidget(label, row, 0, 1, 2);
+  grid.addWidget(box, row + 1, 0);
+  grid.addWidget(clear, row + 1, 1);
+  grid.setRowMinimumHeight(row + 2, 10);
+  box->selectAll();
+  return box;
+}
+
+std::unique_ptr<QDialog> MakeTitleWindow(QWidget* parent) {
+  auto window = std::make_unique<QDialog>(parent);
+  QDialog* dialog = window.get();
+  dialog->setObjectName(QStringLiteral("frmTitle"));
+  dialog->setWindowTitle(QStringLiteral("Proposal Page Titles and Subtitles"));
+
+  const ProposalTitles shown = TitlesToEdit();
+  auto* grid = new QGridLayout;
+  grid->setColumnStretch(0, 1);
+  QLineEdit* title = AddTitle(*grid, 0, QStringLiteral("txtTitle"),
+                              QStringLiteral("Your Current Proposal is Titled..."), shown.title);
+  QLineEdit* subTitle = AddTitle(*grid, 1, QStringLiteral("txtSubTitle"),
+                                 QStringLiteral("Your Current Proposal is Sub-titled..."), shown.subTitle);
+  auto* buttons = new QDialogButtonBox;
+  QPushButton* byDefault = AddButton(*buttons, QStringLiteral("cmdDefault"),
+                                     QStringLiteral("Make This Title Default"), QDialogButtonBox::ActionRole);
+  byDefault->setToolTip(QStringLiteral("New proposals will begin with this subtitle"));
+  AddButton(*buttons, QStringLiteral("cmdOK"), QStringLiteral("Save and Exit"), QDialogButtonBox::AcceptRole);
+  AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  auto* layout = new QVBoxLayout(dialog);
+  layout->addLayout(grid);
+  layout->addWidget(buttons);
+  title->setFocus();
+
+  QObject::connect(byDefault, &QPushButton::clicked, dialog, [subTitle] {
+    Guarded("cmdDefault_Click", [subTitle] { MakeSubTitleDefault(subTitle->text()); });
+  });
+  QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, [dialog, title, subTitle] {
+    if (Guarded("cmdOK_Click", [&] { SaveTitles({title->text(), subTitle->text()}); })) dialog->accept();
+  });
+  return window;
+}
+
+[[maybe_unused]] const bool registered = [] {
+  RegisterWindow(QStringLiteral("frmTitle"), MakeTitleWindow);
+  return true;
+}();
+
+}  // namespace
+
+}  // namespace quillane

@@ -1,0 +1,124 @@
+#include "files/logo.h"
+
+#include "files/file_dialog.h"
+#include "platform/runtime_error.h"
+#include "proposal_fixture.h"
+
+using namespace quillane;
+
+namespace {
+
+PreferenceValues stored;
+
+class LogoTest : public test::ProposalTest {
+ protected:
+  void SetUp() override {
+    ProposalTest::SetUp();
+    frame().AddMenu("mnuEditLogoBorder", {});
+    stored.clear();
+    upcalls().StorePreferences = [](const PreferenceValues& values) {
+      stored = values;
+      return true;
+    };
+    upcalls().StorePreference = [](const QString& key, const QString& value) {
+      stored = {{key, value}};
+      prefs.LogoVisible = value == QLatin1String("True");
+      return true;
+    };
+    prefs.LogoVisible = true;
+    prefs.LogoLeft = 720;
+    prefs.LogoTop = 540;
+  }
+  static Control& Pic() { return page(0).pic[0]; }
+  static bool Checked(const char* entry) { return frame()[QString::fromLatin1(entry)].Checked(); }
+};
+
+TEST_F(LogoTest, IsChosenInTheFileDialog) {
+  OpenLogoCommand();
+  EXPECT_EQ(desk_.shown, QStringList{"frmFile"});
+  Put("ours.JPG", "x");
+  Put("notes.txt", "x");
+  FileDialog dialog;
+  dialog.Load();
+  EXPECT_EQ(dialog.caption, "Opening Graphics File...");
+  EXPECT_FALSE(dialog.propertiesOffered);
+  EXPECT_EQ(dialog.files, QStringList{"ours.JPG"});
+  const QString folder = proposal.CurrentFolder;
+  dialog.ChooseFile("ours.JPG");
+  dialog.Open();
+  EXPECT_EQ(Pic().GetPicture().source, PathOf("ours.JPG"));
+  EXPECT_TRUE(Pic().Visible() && !Pic().Hidden() && Checked("mnuEditLogoVisible"));
+  EXPECT_EQ(Pic().Left(), 720);
+  EXPECT_EQ(proposal.LogoPath, PathOf("ours.JPG"));
+  EXPECT_EQ(format.LogoPath, PathOf("ours.JPG"));
+  EXPECT_TRUE(format.LogoChanged);
+  EXPECT_EQ(proposal.CurrentFolder, folder);
+  EXPECT_FALSE(fileDialog.FormatMode);
+}
+
+class BadPictureDesk : public test::FakeDesk {
+  Picture LoadPicture(const QString& path) override { Raise(errors::InvalidPicture, path); }
+};
+
+TEST_F(LogoTest, StaysWhenTheNewOneCannotBeRead) {
+  ChooseLogo("good.jpg");
+  Pic().SetLeft(2880);
+  BadPictureDesk desk;
+  ChooseLogo("folder/bad.jpg");
+  EXPECT_TRUE(desk.LastSaid().startsWith("\"bad.jpg\" cannot be used as a logo."));
+  EXPECT_EQ(proposal.LogoPath, "good.jpg");
+  EXPECT_EQ(Pic().GetPicture().source, "good.jpg");
+  EXPECT_TRUE(Pic().Visible());
+  SetDesk(&desk_);
+}
+
+TEST_F(LogoTest, ShowsAsTheSettingAndTheMenuSay) {
+  ToggleLogoVisible();
+  EXPECT_TRUE(stored.empty()) << "there is none to show";
+  EXPECT_EQ(desk_.said.size(), 1);
+  ChooseLogo("ours.jpg");
+  for (const bool shown : {false, true}) {
+    ToggleLogoVisible();
+    EXPECT_EQ(stored, (PreferenceValues{{"Logo Visible:", shown ? "True" : "False"}}));
+    EXPECT_EQ(Pic().Visible(), shown);
+    EXPECT_EQ(Pic().Tag(), shown ? "" : "Hide");
+    EXPECT_EQ(Checked("mnuEditLogoVisible"), shown);
+  }
+  upcalls().StorePreference = [](const QString&, const QString&) { return false; };
+  ToggleLogoVisible();
+  EXPECT_TRUE(Pic().Visible() && Checked("mnuEditLogoVisible")) << "the setting could not be stored";
+}
+
+TEST_F(LogoTest, WithABorderShowsAgain) {
+  ChooseLogo("ours.jpg");
+  ToggleLogoVisible();
+  ToggleLogoBorder();
+  EXPECT_TRUE(Checked("mnuEditLogoBorder") && Pic().Visible());
+  ToggleLogoBorder();
+  EXPECT_FALSE(Checked("mnuEditLogoBorder"));
+  EXPECT_TRUE(Pic().Visible());
+}
+
+TEST_F(LogoTest, IsKeptAsDefaultWithItsPlace) {
+  SaveLogoAsDefault();
+  EXPECT_TRUE(stored.empty());
+  ChooseLogo("ours.jpg");
+  Pic().SetLeft(2880.5F);
+  Pic().SetTop(0);
+  format.FormatIsOpen = true;
+  format.LogoPath.clear();
+  format.LogoChanged = false;
+  SaveLogoAsDefault();
+  EXPECT_EQ(stored, (PreferenceValues{
+                        {"Logo File:", "ours.jpg"}, {"Logo Left:", "2880.5"}, {"Logo Top:", "0"}}));
+  EXPECT_EQ(format.LogoPath, "ours.jpg");
+  EXPECT_TRUE(format.LogoChanged);
+  EXPECT_EQ(format.LogoLeft, 2880.5F);
+  format.LogoPath = "theirs.jpg";
+  format.LogoChanged = false;
+  SaveLogoAsDefault();
+  EXPECT_EQ(format.LogoPath, "theirs.jpg") << "a format keeps a logo of its own";
+  EXPECT_FALSE(format.LogoChanged);
+}
+
+}  // namespace
