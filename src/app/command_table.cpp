@@ -9,6 +9,8 @@
 #include "files/new_proposal.h"
 #include "model/proposal.h"
 #include "pages/areas.h"
+#include "pages/grid.h"
+#include "pages/labels.h"
 #include "pages/selection.h"
 #include "pages/totals.h"
 #include "pages/user_font.h"
@@ -155,9 +157,9 @@ const std::vector<Command> EditEntries = {
               [] { DeSelectAllControls(page(editing.FrontWindow)); })),
     Hidden(Entry("mnuEditTextBox", "mnuEditTextProperties", "Properties", "", nullptr)),
     Menu("mnuEditCtrl", "mnuEditLabel", "Label"),
-    Entry("mnuEditLabel", "mnuEditLabelProps", "Label &Properties", "", nullptr),
-    Entry("mnuEditLabel", "mnuEditLabelSelectAll", "&Select All", "", nullptr),
-    Entry("mnuEditLabel", "mnuEditLabelDeselectAll", "&DeSelect All", "", nullptr),
+    Entry("mnuEditLabel", "mnuEditLabelProps", "Label &Properties", "", EditLabelProps),
+    Entry("mnuEditLabel", "mnuEditLabelSelectAll", "&Select All", "", SelectAllLabels),
+    Entry("mnuEditLabel", "mnuEditLabelDeselectAll", "&DeSelect All", "", DeselectAllLabels),
     Menu("mnuEditCtrl", "mnuEditLogo", "Logo"),
     Entry("mnuEditLogo", "mnuEditLogoOpen", "Select Different Logo", "", OpenLogoCommand),
     Entry("mnuEditLogo", "mnuEditLogoSave", "Save this Logo as Default", "", SaveLogoAsDefault),
@@ -212,10 +214,11 @@ const std::vector<Command> OptionEntries = {
 
 const std::vector<Command> ToolEntries = {
     Menu("", "mnuTools", "&Tools"),
-    Entry("mnuTools", "mnuToolsSnap", "Change Snap", "", nullptr),
-    Entry("mnuTools", "mnuToolsAlignWithSnap", "Align Form to Snap", "", nullptr),
-    Entry("mnuTools", "mnuToolsDrawCenterLines", "Draw Grid", "", nullptr),
-    Entry("mnuTools", "mnuToolsClearCenterLines", "Clear Grid", "", nullptr),
+    Entry("mnuTools", "mnuToolsSnap", "Change Snap", "",
+          [] { desk().ShowWindow(QStringLiteral("frmSnap"), Modality::Modal); }),
+    Entry("mnuTools", "mnuToolsAlignWithSnap", "Align Form to Snap", "", AlignFormToSnap),
+    Entry("mnuTools", "mnuToolsDrawCenterLines", "Draw Grid", "", DrawGridCommand),
+    Entry("mnuTools", "mnuToolsClearCenterLines", "Clear Grid", "", ClearGridCommand),
     Entry("mnuTools", "mnuToolsPrinterOffsets", "Adjust Printer Offsets", "",
           [] { desk().ShowWindow(QStringLiteral("frmPOffsets"), Modality::Modal); }),
     Rule("mnuTools"),

@@ -19,6 +19,7 @@
 #include "pages/areas.h"
 #include "pages/changes.h"
 #include "pages/defaults.h"
+#include "pages/grid.h"
 #include "pages/totals.h"
 #include "print/preview.h"
 #include "print/print.h"
@@ -168,6 +169,7 @@ void ReAdjustScrollBar(int window) {
   bar.LargeChange = Truncated(height);
   bar.SmallChange = Truncated(height / 2);
   if (bar.Value > bar.Max) bar.Value = bar.Max;
+  ClearGrid(page(window));
   // The sheet in front stands where the bar is; it is at the top whenever a page has just come to the front.
   if (window == editing.FrontWindow || bar.Value == 0) frame().sheetTop = static_cast<float>(-bar.Value);
   if (frame().sheetMoved) frame().sheetMoved();

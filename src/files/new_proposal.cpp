@@ -8,6 +8,7 @@
 #include "model/upcalls.h"
 #include "pages/changes.h"
 #include "pages/defaults.h"
+#include "pages/labels.h"
 #include "pages/selection.h"
 #include "pages/titles.h"
 #include "pages/totals.h"
@@ -67,6 +68,7 @@ void ForgetEditing() {
   editing.RecalcPending = editing.RecalcMarked = false;
   editing.TextOverflowing = editing.PushPending = editing.PushKeepCaret = editing.PushMoveCaret = false;
   editing.DateWarningGiven = false;
+  labelEdit = {};
 }
 
 // The preferred font of the areas; a setting that is missing leaves the system's own.
@@ -110,7 +112,7 @@ void BlankAreas(Page& target) {
 
 void HideMarks(Page& target) {
   for (Control& label : target.lbl) {
-    label.SetBackColor(colors::White);
+    Unmark(label);
     label.SetShown(!target.IsItemPage() || label.Caption() != prefs.CurrencySymbol);
   }
   for (Control& mark : target.imgNoTax) mark.SetShown(false);

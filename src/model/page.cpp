@@ -127,6 +127,7 @@ Page::Page(int windowIndex) : window(windowIndex), pageIndex(windowIndex == Copy
     mark.SetHeight(sheet::AreaHeight);
     mark.SetShown(false);
   }
+  for (Control& label : lbl) label.SetBackColor(colors::ButtonFace);
   if (!shpSelect.empty()) shpSelect[0].SetShown(false);
   if (!pic.empty()) pic[0].SetShown(false);
 

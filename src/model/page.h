@@ -20,6 +20,13 @@ inline constexpr float PlainLeft = 720, PlainWidth = 9000;       ///< a row with
 inline constexpr float ColumnsLeft = 1260, ColumnsWidth = 6630;  ///< a row with columns
 }  // namespace sheet
 
+/// A label or the logo in a person's hand, from the press of a button to its release.
+struct Drag {
+  bool Dragging = false;                 ///< the left button holds it
+  float DragStartX = 0, DragStartY = 0;  ///< where it was taken, twips inside the control
+  float fromLeft = 0, fromTop = 0;       ///< its place at the press
+};
+
 class Page {
  public:
   explicit Page(int window);
@@ -37,6 +44,7 @@ class Page {
   std::vector<Control> pic;        ///< one element on frmP1, none elsewhere
   std::vector<Control> shpSelect;  ///< one element on pages with a selection
 
+  Drag drag;
   bool columnsLoaded = false;
   int lastFocused = 0;  ///< the txt index that takes the focus when the page comes to the front
 

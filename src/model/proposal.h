@@ -157,7 +157,8 @@ struct EditingState {
 
 /// The label last pressed, and what the label dialog does with it or with a selection of labels.
 struct LabelEditState {
-  int CurrentLabel = 0;  ///< index of the label last pressed, on editing.CurrentForm
+  int CurrentLabel = 0;  ///< index of the label last pressed
+  int pressedOn = 0;     ///< the page index of that label
   LabelRecord CurrentLabelRec;
   int LabelCount = 0;  ///< highest label index of the page
   QString LabelCaption;

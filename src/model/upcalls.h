@@ -43,10 +43,12 @@ struct Upcalls {
   void (*ShowTermLists)() = [] {};  ///< tools: F5, the list of frequent-terms files
   void (*NextTermList)() = [] {};   ///< tools: F6, the next file of that list
   float (*PrinterWidth)(Control& area,
-                        const QString& text) = nullptr;    ///< print: inches; null without a printer
-  void (*OpenFormat)() = [] {};                            ///< files: apply the open format to blank pages
-  void (*ReadTerms)() = [] {};                             ///< tools: read terms.FileName
-  void (*PopUpTextMenu)(Control& area) = [](Control&) {};  ///< qt: mnuEditTextBox at the pointer
+                        const QString& text) = nullptr;      ///< print: inches; null without a printer
+  void (*OpenFormat)() = [] {};                              ///< files: apply the open format to blank pages
+  void (*ReadTerms)() = [] {};                               ///< tools: read terms.FileName
+  void (*PopUpTextMenu)(Control& area) = [](Control&) {};    ///< qt: mnuEditTextBox at the pointer
+  void (*PopUpLabelMenu)(Control& label) = [](Control&) {};  ///< qt: mnuEditLabel at the pointer
+  void (*RedrawPage)(int window) = [](int) {};               ///< qt: what lies under the controls has changed
   void (*SetEditMenuState)(const QString& state) = [](const QString&) {};  ///< pages: the text menu's states
 };
 Upcalls& upcalls();

@@ -69,6 +69,13 @@ void DrawLogo(Surface& surface, const Control& logo, DrawMode mode) {
     Outline(surface, {logo.Left(), logo.Top(), picture.width, picture.height}, BorderColor);
 }
 
+/// The ground of a marked label is the screen's only.
+void DrawLabel(Surface& surface, const Control& label, DrawMode mode) {
+  if (mode == DrawMode::Editing && label.BackStyle() == Backing::Opaque)
+    surface.FillRect(label.Left(), label.Top(), label.Width(), label.Height(), label.BackColor());
+  PrintText(surface, label.GetFont(), label.ForeColor(), label.Left(), label.Top(), label.Caption());
+}
+
 void DrawMark(Surface& surface, const Control& mark) {
   Picture picture = mark.GetPicture();
   if (picture.source.isEmpty()) picture.source = QStringLiteral(":/icons/no-tax.svg");
@@ -111,8 +118,7 @@ void DrawControl(Surface& surface, const Page& page, const Control& control, Dra
     case Kind::Line:
       return DrawRule(surface, control);
     case Kind::Label:
-      return PrintText(surface, control.GetFont(), control.ForeColor(), control.Left(), control.Top(),
-                       control.Caption());
+      return DrawLabel(surface, control, mode);
     case Kind::Image:
       return DrawMark(surface, control);
     case Kind::TextBox:

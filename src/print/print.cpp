@@ -6,6 +6,7 @@
 #include "model/proposal.h"
 #include "model/report.h"
 #include "model/upcalls.h"
+#include "pages/grid.h"
 #include "pages/titles.h"
 #include "pages/totals.h"
 #include "platform/files.h"
@@ -101,6 +102,7 @@ void BringSheetsUpToDate() {
 void PrepareDrawing() {
   if (TotalsAreStale()) RecalculateTotals(0);
   ReadPrinterOffsets();
+  ClearGrid(page(editing.FrontWindow));
 }
 
 void PrintTheForm() {

@@ -28,10 +28,19 @@ namespace {
 
 FrameWindow* theWindow = nullptr;  // not owned
 
-void PopUpTextMenu(Control&) {
+void PopUp(const char* name) {
   if (!theWindow) return;
-  if (auto* menu = theWindow->findChild<QMenu*>(QStringLiteral("mnuEditTextBox")))
-    menu->popup(QCursor::pos());
+  if (auto* menu = theWindow->findChild<QMenu*>(QLatin1String(name))) menu->popup(QCursor::pos());
+}
+void PopUpTextMenu(Control&) {
+  PopUp("mnuEditTextBox");
+}
+void PopUpLabelMenu(Control&) {
+  PopUp("mnuEditLabel");
+}
+
+void RedrawPage(int window) {
+  if (SheetView* sheet = TheSheetView(); sheet && sheet->CurrentWindow() == window) sheet->update();
 }
 
 QSettings WindowSettings() {
@@ -90,10 +99,16 @@ void FrameWindow::ConnectModel() {
     FollowScroll();
   };
   upcalls().PopUpTextMenu = PopUpTextMenu;
+  upcalls().PopUpLabelMenu = PopUpLabelMenu;
+  upcalls().RedrawPage = RedrawPage;
   sheet_->scrollTo = [](int value) { frame().VScroll1.Value = qBound(0, value, frame().VScroll1.Max); };
   auto* band = new RubberBand(*sheet_);  // lives as long as the sheet's view
-  sheet_->pageMouse = [band](const PageMouseEvent& event) {
-    if (!event.control) band->Handle(event);
+  labelHands_ = std::make_unique<LabelHands>(*sheet_);
+  sheet_->pageMouse = [this, band](const PageMouseEvent& event) {
+    if (event.control)
+      labelHands_->Handle(event);
+    else
+      band->Handle(event);
   };
   connect(scrollBar_, &QScrollBar::valueChanged, this, [](int value) { frame().VScroll1.Value = value; });
   FollowTitle();

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "model/frame.h"
+#include "qt/label_hands.h"
 #include "qt/menus.h"
 
 class QHBoxLayout;
@@ -62,6 +63,7 @@ class FrameWindow : public QMainWindow, private FormObserver {
   QScrollBar* scrollBar_ = nullptr;
   QHash<const Control*, QWidget*> widgets_;
   std::unique_ptr<Menus> menus_;
+  std::unique_ptr<LabelHands> labelHands_;
   bool titleStale_ = false;
 };
 

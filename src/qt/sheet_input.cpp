@@ -15,6 +15,7 @@
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/report.h"
+#include "pages/labels.h"
 #include "pages/totals.h"
 #include "platform/codepage.h"
 #include "qt/live_editor.h"
@@ -99,6 +100,20 @@ KeyEvent KeyFor(QChar character) {
 
 bool Moves(int key) {
   return key == keys::Left || key == keys::Right || key == keys::Home || key == keys::End;
+}
+
+Qt::CursorShape ShapeOver(const Control* control) {
+  if (!control) return Qt::ArrowCursor;
+  if (control->GetKind() == Kind::TextBox) return Qt::IBeamCursor;
+  if (control->GetKind() == Kind::Image) return Qt::PointingHandCursor;
+  switch (PointerOver(*control)) {
+    case MousePointer::Moves:
+      return Qt::SizeAllCursor;
+    case MousePointer::Link:
+      return Qt::PointingHandCursor;
+    default:
+      return Qt::ArrowCursor;
+  }
 }
 
 /// A clipboard's last line break is no part of the text; the others become the blanks that a line can hold.
@@ -287,10 +302,7 @@ void SheetView::mousePressEvent(QMouseEvent* event) {
 void SheetView::mouseMoveEvent(QMouseEvent* event) {
   if (mode_ == DrawMode::Printing) return;
   if (event->buttons() == Qt::NoButton) {
-    const Control* under = ControlAt(ToTwips(event->position()));
-    const bool text = under && under->GetKind() == Kind::TextBox;
-    const bool mark = under && under->GetKind() == Kind::Image;
-    setCursor(text ? Qt::IBeamCursor : mark ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    setCursor(ShapeOver(ControlAt(ToTwips(event->position()))));
     return;
   }
   if (!pressed_ || pressed_->GetKind() == Kind::Label || pressed_->GetKind() == Kind::Picture)

@@ -11,6 +11,7 @@
 #include "model/report.h"
 #include "pages/area_name.h"
 #include "platform/runtime_error.h"
+#include "qt/grid_paint.h"
 #include "qt/live_editor.h"
 #include "qt/painter_surface.h"
 #include "qt/sheet_accessible.h"
@@ -261,6 +262,7 @@ void SheetView::paintEvent(QPaintEvent* event) {
   staleRects_ = 0;
   QPainter painter(this);
   PaintGround(painter, event->rect());
+  if (mode_ == DrawMode::Editing) PaintGrid(painter, CurrentPage(), PageTransform(), event->rect());
   painter.setTransform(PageTransform(), true);
   PaintControls(painter, event->rect());
   PaintBand(painter);

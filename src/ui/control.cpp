@@ -122,6 +122,9 @@ void Control::SetForeColor(Color value) {
 void Control::SetBackColor(Color value) {
   Change(backColor_, value, Aspect::Colour);
 }
+void Control::SetBackStyle(Backing value) {
+  Change(backStyle_, value, Aspect::Colour);
+}
 void Control::SetPicture(const Picture& value) {
   Change(picture_, value, Aspect::Picture);
 }

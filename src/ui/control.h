@@ -9,6 +9,8 @@
 
 namespace quillane {
 
+/// Whether a control's ground covers what lies under it.
+enum class Backing { Transparent = 0, Opaque = 1 };
 enum class Kind { TextBox, Label, Image, Line, Picture, Shape, Button, Menu };
 /// What about a control has changed, so that a viewer does no more than it must.
 enum class Aspect { Geometry, Visible, Text, Caption, Colour, Font, Caret, Picture, State };
@@ -82,6 +84,10 @@ class Control {
   Color BackColor() const { return backColor_; }
   void SetForeColor(Color value);
   void SetBackColor(Color value);
+  Backing BackStyle() const {
+    return backStyle_;
+  }  ///< of a label; every other kind shows its BackColor anyway
+  void SetBackStyle(Backing value);
 
   int SelStart() const { return selStart_; }
   int SelLength() const { return selLength_; }
@@ -118,6 +124,7 @@ class Control {
   float left_ = 0, top_ = 0, width_ = 0, height_ = 0;
   Color foreColor_ = colors::Black;
   Color backColor_ = colors::White;
+  Backing backStyle_ = Backing::Transparent;
   QString tag_, text_, caption_, toolTip_;
   Font font_;
   int selStart_ = 0, selLength_ = 0;

@@ -95,9 +95,9 @@ mnuEditCtrl|&Edit Control||
   mnuEditTextDeselect|Deselect Text Areas and Clear Memory|Ctrl+D|d
   mnuEditTextProperties|Properties||hd
  mnuEditLabel|Label||
-  mnuEditLabelProps|Label &Properties||d
-  mnuEditLabelSelectAll|&Select All||d
-  mnuEditLabelDeselectAll|&DeSelect All||d
+  mnuEditLabelProps|Label &Properties||
+  mnuEditLabelSelectAll|&Select All||
+  mnuEditLabelDeselectAll|&DeSelect All||
  mnuEditLogo|Logo||
   mnuEditLogoOpen|Select Different Logo||
   mnuEditLogoSave|Save this Logo as Default||
@@ -129,10 +129,10 @@ mnuOpt|Options||
  mnuOptSetDefaultFonts|Save Current Font Properties as Default||
  mnuOptEmptyBackup|Empty Backup Folder||
 mnuTools|&Tools||
- mnuToolsSnap|Change Snap||d
- mnuToolsAlignWithSnap|Align Form to Snap||d
- mnuToolsDrawCenterLines|Draw Grid||d
- mnuToolsClearCenterLines|Clear Grid||d
+ mnuToolsSnap|Change Snap||
+ mnuToolsAlignWithSnap|Align Form to Snap||
+ mnuToolsDrawCenterLines|Draw Grid||
+ mnuToolsClearCenterLines|Clear Grid||
  mnuToolsPrinterOffsets|Adjust Printer Offsets||
  mnuToolsCreateShorcut|Create Shorcut on the Desktop||
  mnuToolsCreateShortcutUM|Create Shortcut for Upgrade Manager||

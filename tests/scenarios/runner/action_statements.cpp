@@ -3,6 +3,7 @@
 #include <QScrollBar>
 
 #include "failure.h"
+#include "print/draw.h"
 #include "properties.h"
 #include "statements.h"
 
@@ -62,7 +63,18 @@ void Hover(World& world, const Statement& statement) {
   world.hands.Hover(Named(world, statement, "hover C"));
 }
 
+void DragBy(World& world, const Statement& statement) {
+  const Target target = Find(world.stage, statement.At(1));
+  const std::optional<double> dx = ReadNumber(statement.At(3)), dy = ReadNumber(statement.At(4));
+  if (!target.control || !target.page || !dx || !dy)
+    throw BadStatement(QStringLiteral("drag frmP2.lbl(0) by 360 -180"));
+  const Box box = EditingBox(*target.control);
+  const QPointF from(double{box.left} + double{box.width} / 2, double{box.top} + double{box.height} / 2);
+  world.hands.Drag(*target.page, from, from + QPointF(*dx, *dy));
+}
+
 void Drag(World& world, const Statement& statement) {
+  if (statement.Is(2, "by")) return DragBy(world, statement);
   Page* page = FindPage(statement.At(1));
   double at[4]{};
   for (size_t index = 0; index < 4; ++index) {

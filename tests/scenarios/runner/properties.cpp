@@ -61,6 +61,7 @@ const Readers<ControlReader>& ControlReaders() {
       {"height", [](const Control& c) { return TwipsValue(c.Height()); }},
       {"forecolor", [](const Control& c) { return ColourValue(c.ForeColor()); }},
       {"backcolor", [](const Control& c) { return ColourValue(c.BackColor()); }},
+      {"backstyle", [](const Control& c) { return NumberValue(static_cast<int>(c.BackStyle())); }},
       {"fontname",
        [](const Control& c) {
          return Value{ValueKind::Name, c.GetFont().name};
