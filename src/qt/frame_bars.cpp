@@ -43,6 +43,19 @@ bool ActsOnPress(const QString& name) {
          name == QLatin1String("imgFootNotes");
 }
 
+/// An image that acts.  Where the window is narrow it gives up the room around its drawing first.
+class ImageButton : public QToolButton {
+ public:
+  explicit ImageButton(int size) {
+    setIconSize({size, size});
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+  }
+  QSize minimumSizeHint() const override {
+    constexpr int room = 2;
+    return {iconSize().width() + room, sizeHint().height()};
+  }
+};
+
 /// A button whose caption may grow without pushing its neighbours about.  Where the window is narrow it gives
 /// up the room beside its words before the buttons would lie over each other.
 class CaptionButton : public QPushButton {
@@ -120,9 +133,8 @@ void FrameWindow::Keep(const QString& name, QWidget* widget) {
 }
 
 void FrameWindow::AddImage(QHBoxLayout& row, const QString& name, int size) {
-  auto* button = new QToolButton;
+  auto* button = new ImageButton(size);
   button->setAutoRaise(true);
-  button->setIconSize({size, size});
   button->setFocusPolicy(Qt::NoFocus);
   button->setCursor(Qt::PointingHandCursor);
   if (const QString drawing = DrawingOf(name); !drawing.isEmpty()) button->setIcon(IconOf(drawing));
@@ -167,7 +179,7 @@ QWidget* FrameWindow::AddLabel(const QString& name, Qt::TextElideMode elide, Qt:
 QWidget* FrameWindow::MakeToolBar() {
   auto* bar = new QWidget;
   bar->setObjectName(QStringLiteral("picTop"));
-  QHBoxLayout* row = MakeRow(*bar, 6, 4);
+  QHBoxLayout* row = MakeRow(*bar, 6, 3);
   for (const char* name : {"imgNew", "imgOpen", "imgFootNotes", "imgSave", "imgSaveAs", "imgPrint"})
     AddImage(*row, QString::fromLatin1(name), ToolSize);
   row->addWidget(MakeRule(QFrame::VLine));
