@@ -71,4 +71,10 @@ QString AreaName(const Page& page, const Control& area) {
          (field.isEmpty() ? QStringLiteral("area %1").arg(area.Index() + 1) : field);
 }
 
+QString AreaRemark(const Page& page, const Control& area) {
+  const bool amount = area.Array() == QLatin1String("txt") && page.IsAmount(area.Index());
+  const bool exempt = amount && page.imgNoTax[static_cast<size_t>(area.Index())].Visible();
+  return exempt ? QStringLiteral("exempt from sales tax") : QString();
+}
+
 }  // namespace quillane

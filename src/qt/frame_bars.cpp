@@ -95,11 +95,6 @@ QString LongestCaption(const QString& button) {
   return frame()[button].Caption();
 }
 
-/// A name for who hears the window: tool tips say what an image does.
-QString SpokenName(const Control& control) {
-  return control.Caption().isEmpty() ? control.ToolTip() : control.Caption();
-}
-
 /// A window that a command has opened swallows the release of the image that was pressed for it.
 void ClearPressedBorder(QToolButton& button) {
   if (QApplication::mouseButtons() != Qt::NoButton) return;
@@ -127,7 +122,8 @@ QHBoxLayout* MakeRow(QWidget& bar, int margin, int spacing) {
 void FrameWindow::Keep(const QString& name, QWidget* widget) {
   Control& control = frame()[name];
   widget->setObjectName(name);
-  widget->setAccessibleName(SpokenName(control));
+  // A label speaks its words, and a button its caption; an image has no words but what its tool tip says.
+  if (qobject_cast<QToolButton*>(widget)) widget->setAccessibleName(control.ToolTip());
   widgets_.insert(&control, widget);
   Follow(control, *widget);
 }

@@ -142,6 +142,7 @@ void FrameWindow::Follow(Control& control, QWidget& widget) {
     if (!control.GetPicture().source.isEmpty()) image->setIcon(IconOf(control.GetPicture().source));
   } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
     button->setText(control.Caption());
+    if (button->accessibleName() != control.Caption()) button->setAccessibleName(control.Caption());
   }
   FollowColours(control, widget);
 }

@@ -6,6 +6,19 @@
 
 namespace quillane {
 
+namespace {
+
+/// An entry answers to its first access key; a second mark would be shown and read out as a letter.
+QString WithOneAccessKey(QString caption) {
+  const qsizetype first = caption.indexOf(QLatin1Char('&'));
+  for (qsizetype next = caption.lastIndexOf(QLatin1Char('&')); next > first;
+       next = caption.lastIndexOf(QLatin1Char('&')))
+    caption.remove(next, 1);
+  return caption;
+}
+
+}  // namespace
+
 Menus::Menus(QMenuBar& bar) {
   for (const Command& command : Commands()) {
     if (command.isMenu)
@@ -56,7 +69,7 @@ void Menus::AddEntry(const Command& command) {
 void Menus::Follow(const Control& entry) {
   QAction* action = actions_.value(entry.Array());
   if (!action) return;
-  action->setText(entry.Caption());
+  action->setText(WithOneAccessKey(entry.Caption()));
   action->setVisible(entry.Visible());
   action->setEnabled(entry.Enabled() && (action->menu() || CommandExists(entry.Array())));
   if (action->isCheckable()) action->setChecked(entry.Checked());

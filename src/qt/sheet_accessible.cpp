@@ -41,9 +41,7 @@ class AreaAccessible : public QAccessibleInterface, public QAccessibleActionInte
     if (kind == QAccessible::Name) return AreaName(owner, area_);
     if (kind == QAccessible::Value) return area_.Text();
     if (kind == QAccessible::Help) return area_.ToolTip();
-    const bool amount = area_.Array() == QLatin1String("txt") && owner.IsAmount(area_.Index());
-    const bool exempt = amount && owner.imgNoTax[static_cast<size_t>(area_.Index())].Visible();
-    return kind == QAccessible::Description && exempt ? QStringLiteral("exempt from sales tax") : QString();
+    return kind == QAccessible::Description ? AreaRemark(owner, area_) : QString();
   }
 
   QAccessible::State state() const override {
@@ -146,12 +144,22 @@ void InstallSheetAccessible() {
   static_cast<void>(installed);
 }
 
+void LeaveArea(QWidget& editor) {
+  if (!QAccessible::isActive()) return;
+  QAccessible::deleteAccessibleInterface(
+      QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&editor)));
+}
+
 void TellAreaFocused(QWidget& editor) {
   if (!QAccessible::isActive()) return;
-  QAccessibleEvent name(&editor, QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&name);
   QAccessibleEvent focus(&editor, QAccessible::Focus);
   QAccessible::updateAccessibility(&focus);
+}
+
+void TellPageShown(QWidget& view) {
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent name(&view, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&name);
 }
 
 }  // namespace quillane

@@ -62,6 +62,7 @@ void SheetView::ShowPage(int window) {
   window_ = window;
   pressed_ = nullptr;
   CurrentPage().form.observer = this;
+  TellPageShown(*this);
   FocusControl(editing.Focus);
   update();
 }
@@ -147,7 +148,7 @@ void SheetView::FocusControl(Control* control) {
   if (control && Shows(*control)) {
     focused_ = control;
     if (before != control) editor_->Begin(control->Text());
-    ShowEditor();
+    ShowEditor(before == control ? Arrival::Stays : Arrival::Comes);
     return;
   }
   // A button of the frame that the model gives the focus to is a widget of that name.
@@ -156,16 +157,20 @@ void SheetView::FocusControl(Control* control) {
   editor_->hide();
 }
 
-void SheetView::ShowEditor() {
-  editor_->setAccessibleName(AreaName(CurrentPage(), *focused_));
+void SheetView::ShowEditor(Arrival arrival) {
   editor_->setReadOnly(focused_->Locked());
   TakeFromControl();
+  if (arrival == Arrival::Comes) LeaveArea(*editor_);
+  editor_->setAccessibleName(AreaName(CurrentPage(), *focused_));
+  editor_->setAccessibleDescription(AreaRemark(CurrentPage(), *focused_));
   editor_->Wear(*focused_);
   Reveal(*focused_);
   PlaceEditor();
   editor_->show();
+  // The toolkit tells of a focus that comes from another widget, and not of one that the editor keeps.
+  const bool kept = editor_->hasFocus();
   editor_->setFocus();
-  TellAreaFocused(*editor_);
+  if (kept && arrival == Arrival::Comes) TellAreaFocused(*editor_);
 }
 
 void SheetView::PlaceEditor() {

@@ -106,7 +106,8 @@ class SheetView : public QWidget, private FormObserver {
   void PaintControl(QPainter& painter, Surface& surface, const Control& control) const;
   void PaintBand(QPainter& painter) const;
 
-  void ShowEditor();
+  enum class Arrival { Comes, Stays };
+  void ShowEditor(Arrival arrival);
   void PlaceEditor();
   void Reveal(const Control& control);
   bool Shows(const Control& control) const;

@@ -369,6 +369,7 @@ TEST_F(Sheet, NamesItsAreasForAScreenReader) {
   EXPECT_EQ(Focus(), "frmP2.txt(39)");
   EXPECT_EQ(sheet->focusChild()->text(QAccessible::Name), QStringLiteral("Page 2, row 5, amount"));
   EXPECT_EQ(sheet->child(39), sheet->focusChild());
+  EXPECT_EQ(sheet->focusChild()->text(QAccessible::Description), QStringLiteral("exempt from sales tax"));
 }
 
 }  // namespace
