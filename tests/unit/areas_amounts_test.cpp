@@ -42,31 +42,6 @@ TEST_F(Amounts, SettlingTakesTheAmountAndLeavesColourAndFocus) {
   EXPECT_EQ(At("frmP1.txt(28)").BackColor(), colors::Cyan);
 }
 
-TEST_F(Amounts, QuantityTimesEachPriceFollowsEveryKey) {
-  AddColumns("frmP1.txt(22)");
-  typist.Type(QStringLiteral("3"));
-  typist.Key(keys::Enter);
-  typist.Key(keys::Enter);
-  EXPECT_EQ(FocusName(), "frmP1.txtAmt(22)");
-  typist.Type(QStringLiteral("19.99"));
-  EXPECT_EQ(At("frmP1.txt(30)").Text(), "59.97");
-  EXPECT_EQ(proposal.PageSubTotal[0], proposal.AreaAmount[0][30]);
-  typist.Key(keys::Enter);
-  EXPECT_EQ(FocusName(), "frmP1.txt(30)");
-  EXPECT_EQ(At("frmP1.txtAmt(22)").BackColor(), colors::LightGrey);
-  EXPECT_FALSE(editing.RecalcPending);
-}
-
-TEST_F(Amounts, AnEachPriceIsWrittenOutWhenLeft) {
-  AddColumns("frmP2.txt(0)");
-  SetFocus(At("frmP2.txtAmt(0)"));
-  typist.Type(QStringLiteral("1200"));
-  typist.Key(keys::Enter);
-  EXPECT_EQ(At("frmP2.txtAmt(0)").Text(), "1,200.00");
-  EXPECT_EQ(At("frmP2.txtQty(0)").Text(), "Qty.");
-  EXPECT_EQ(At("frmP2.txt(35)").Text(), QString());
-}
-
 TEST_F(Amounts, ARewriteByACommandNeverMultiplies) {
   AddColumns("frmP2.txt(0)");
   typist.Type(QStringLiteral("2"));
@@ -104,16 +79,6 @@ TEST_F(Amounts, ARowWhoseStoredFormOutgrowsItsFieldTurnsRed) {
   EXPECT_EQ(row.BackColor(), colors::Red);
   typist.Key(keys::Backspace);
   EXPECT_EQ(row.BackColor(), colors::Grey);
-}
-
-TEST_F(Amounts, TheDepositIsRewrittenByEnterAndByLeaving) {
-  SetFocus(At("frmP6.txt(4)"));
-  typist.Type(QStringLiteral("500"));
-  typist.Key(keys::Enter);
-  EXPECT_EQ(FocusName(), "frmP6.txt(4)");
-  EXPECT_EQ(At("frmP6.txt(4)").Text(), "500.00");
-  EXPECT_EQ(At("frmP6_1.txt(4)").Text(), "500.00");
-  EXPECT_EQ(proposal.BalanceDue, -500);
 }
 
 }  // namespace

@@ -42,21 +42,6 @@ TEST_F(Areas, ASelectedAreaStaysBlueThroughTheFocus) {
   EXPECT_EQ(At("frmP2.txt(2)").BackColor(), colors::Grey);
 }
 
-TEST_F(Areas, TheFocusSaysWhereOneIs) {
-  ShowRowColumns(page(3), 7, true);
-  SetFocus(At("frmP3.txt(41)"));
-  EXPECT_EQ(editing.CurrentPage, 2);
-  EXPECT_EQ(editing.CurrentForm, &page(2));
-  EXPECT_EQ(editing.CurrentArea, 41);
-  EXPECT_EQ(frame()["lblTextNum"].Caption(), "Page 3, Text Area 41");
-  SetFocus(At("frmP4.txtQty(7)"));
-  EXPECT_EQ(editing.CurrentPage, 3);
-  EXPECT_EQ(editing.CurrentArea, 7);
-  SetFocus(At("frmP6.txt(4)"));
-  EXPECT_EQ(editing.CurrentPage, 5);
-  EXPECT_EQ(frame()["lblTextNum"].Caption(), "Page 6, Text Area 4");
-}
-
 TEST_F(Areas, TheClientsCopyTakesNoInputAndIsNeverThePageInUse) {
   SetFocus(At("frmP2.txt(3)"));
   FocusPage(page(CopyOfPage6));
@@ -105,17 +90,6 @@ TEST_F(Areas, WarnsOnceOfADateThatCannotBeRead) {
   EXPECT_EQ(typist.desk.said.size(), 1);
 }
 
-TEST_F(Areas, ADoubleClickWritesTheDateInFull) {
-  for (const auto& [typed, shown] : {std::pair{"1/23/08", "January 23, 2008"}, std::pair{"soon", "soon"}}) {
-    At("frmP1.txt(0)").SetText(QString::fromLatin1(typed));
-    DoubleClick(At("frmP1.txt(0)"));
-    EXPECT_EQ(At("frmP1.txt(0)").Text(), QString::fromLatin1(shown));
-  }
-  At("frmP1.txt(1)").SetText(QStringLiteral("1/23/08"));
-  DoubleClick(At("frmP1.txt(1)"));
-  EXPECT_EQ(At("frmP1.txt(1)").Text(), "1/23/08");
-}
-
 struct Row {
   const char* area;
   bool toggles;
@@ -134,31 +108,6 @@ TEST_F(Areas, ColumnsComeAndGoOnItemRowsOnly) {
     EXPECT_EQ(area.Width(), plain) << c.area;
     EXPECT_EQ(FocusName(), area.FullName());
   }
-}
-
-TEST_F(Areas, AddingColumnsShowsPromptsAndRemovingThemKeepsThePrice) {
-  At("frmP3.txt(4)").SetText(QStringLiteral("Candles"));
-  At("frmP3.txt(39)").SetText(QStringLiteral("25.00"));
-  SetFocus(At("frmP3.txt(4)"));
-  typist.Key(keys::F8);
-  EXPECT_EQ(FocusName(), "frmP3.txtQty(4)");
-  EXPECT_EQ(At("frmP3.txtQty(4)").Text(), "Qty.");
-  EXPECT_EQ(At("frmP3.txtAmt(4)").Text(), "Amt.");
-  for (const char* name : {"frmP3.txtQty(4)", "frmP3.txtAmt(4)", "frmP3.lblAt(4)", "frmP3.lblEach(4)"}) {
-    EXPECT_TRUE(At(name).Visible()) << name;
-    EXPECT_EQ(At(name).Tag(), QString()) << name;
-  }
-  EXPECT_TRUE(proposal.TextRec[2][4].QtyBox);
-  EXPECT_EQ(proposal.PageText[2][4], StoredForm(page(2), 4));
-  typist.Type(QStringLiteral("3"));
-  EXPECT_EQ(proposal.PageText[2][4], StoredForm(page(2), 4));
-  EXPECT_EQ(format.FormatTextRec[2][4].QtyValue, "3");
-  typist.Key(keys::F8);
-  EXPECT_EQ(FocusName(), "frmP3.txt(4)");
-  EXPECT_EQ(At("frmP3.txtQty(4)").Text(), "Qty.");
-  EXPECT_FALSE(At("frmP3.txtQty(4)").Visible());
-  EXPECT_FALSE(proposal.TextRec[2][4].QtyBox);
-  EXPECT_EQ(At("frmP3.txt(39)").Text(), "25.00");
 }
 
 struct Drop {
@@ -334,6 +283,17 @@ TEST_F(Areas, TheTermListsAnswerOnlyWhileTheirWindowIsOpen) {
   typist.Key(keys::F6);
   typist.Key(keys::F5);
   EXPECT_EQ(asked, "65");
+}
+
+TEST_F(Areas, ADoubleClickWritesTheDateInFull) {
+  for (const auto& [typed, shown] : {std::pair{"1/23/08", "January 23, 2008"}, std::pair{"soon", "soon"}}) {
+    At("frmP1.txt(0)").SetText(QString::fromLatin1(typed));
+    DoubleClick(At("frmP1.txt(0)"));
+    EXPECT_EQ(At("frmP1.txt(0)").Text(), QString::fromLatin1(shown));
+  }
+  At("frmP1.txt(1)").SetText(QStringLiteral("1/23/08"));
+  DoubleClick(At("frmP1.txt(1)"));
+  EXPECT_EQ(At("frmP1.txt(1)").Text(), "1/23/08");
 }
 
 }  // namespace

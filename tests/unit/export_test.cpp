@@ -136,38 +136,6 @@ TEST_F(ExportTest, TellsThePeopleThePlacesAndTheTotals) {
                                      "ez\r\n"));
 }
 
-TEST_F(ExportTest, SavesTheReportBesideTheProposalAndShowsIt) {
-  SaveAsTextCommand();
-  EXPECT_EQ(Said(), QStringList{"File was saved as Emily Carter.txt"});
-  EXPECT_EQ(Get("Emily Carter.txt"), ProposalReportBytes());
-  EXPECT_EQ(desk_.opened, QStringList{PathOf("Emily Carter.txt")});
-}
-
-TEST_F(ExportTest, CountsAnAmountThatIsStillBeingTyped) {
-  SetFocus(At("frmP2.txt(35)"));
-  At("frmP2.txt(35)").SetText("1250");
-  SaveAsTextCommand();
-  const QByteArray text = Get("Emily Carter.txt");
-  EXPECT_TRUE(text.contains("Subtotal:\t\t$ 1,250.00\r\n\r\n")) << text.constData();
-  EXPECT_TRUE(text.contains("Total:\t\t\t$ 1,250.00\r\n"));
-}
-
-TEST_F(ExportTest, AsksBeforeItReplacesAFile) {
-  Put("Emily Carter.txt", "old");
-  Reply({Answer::No});
-  SaveAsTextCommand();
-  EXPECT_EQ(Get("Emily Carter.txt"), "old");
-  EXPECT_TRUE(Said().value(0).startsWith("A file with this name (Emily Carter.txt)\nalready exists."));
-  EXPECT_EQ(desk_.LastSaid(), "File not saved.");
-  EXPECT_TRUE(desk_.opened.isEmpty());
-  EXPECT_FALSE(proposal.SaveCancelled);
-  Reply({Answer::Yes});
-  desk_.said.clear();
-  SaveAsTextCommand();
-  EXPECT_EQ(Get("Emily Carter.txt"), ProposalReportBytes());
-  EXPECT_EQ(Said().size(), 2) << "one question, one answer";
-}
-
 TEST_F(ExportTest, NeedsANameThatAFileCanHave) {
   struct Case {
     const char *name, *told;
@@ -192,15 +160,6 @@ TEST_F(ExportTest, NeedsANameThatAFileCanHave) {
     }
     EXPECT_FALSE(Exists("TempClipboardInfo.txt"));
   }
-}
-
-TEST_F(ExportTest, CopiesTheReportThroughItsScratchFile) {
-  Put("TempClipboardInfo.txt", QByteArray(100000, 'x'));
-  CopyProposalCommand();
-  EXPECT_EQ(Said(), QStringList{"Proposal saved to memory and is ready to paste in another application."});
-  EXPECT_EQ(Get("TempClipboardInfo.txt"), ProposalReportBytes());
-  EXPECT_EQ(desk_.clipboard, ProposalReport().replace("\r\n", "\n"));
-  EXPECT_FALSE(Exists("Emily Carter.txt"));
 }
 
 TEST_F(ExportTest, OpensADocumentNamedAfterTheProposal) {
@@ -249,6 +208,15 @@ TEST_F(ExportTest, ReportsADiskThatIsFullAndKeepsWhatWasThere) {
   CopyProposalCommand();
   EXPECT_EQ(desk_.clipboard, "before");
   EXPECT_TRUE(desk_.opened.isEmpty());
+}
+
+TEST_F(ExportTest, CopiesTheReportThroughItsScratchFile) {
+  Put("TempClipboardInfo.txt", QByteArray(100000, 'x'));
+  CopyProposalCommand();
+  EXPECT_EQ(Said(), QStringList{"Proposal saved to memory and is ready to paste in another application."});
+  EXPECT_EQ(Get("TempClipboardInfo.txt"), ProposalReportBytes());
+  EXPECT_EQ(desk_.clipboard, ProposalReport().replace("\r\n", "\n"));
+  EXPECT_FALSE(Exists("Emily Carter.txt"));
 }
 
 }  // namespace

@@ -142,36 +142,6 @@ TEST_F(NewProposal, LosesAMissingLogoAndNothingElse) {
   SetDesk(&desk_);
 }
 
-TEST_F(NewProposal, AsksOnceAboutChanges) {
-  struct Case {
-    Answer answer;
-    bool named, leaves;
-  };
-  // A save that did not happen, here for want of a name, counts as Cancel.
-  for (const Case& c : {Case{Answer::No, true, true}, Case{Answer::Cancel, true, false},
-                        Case{Answer::Yes, true, true}, Case{Answer::Yes, false, false}}) {
-    StartNewFile();
-    desk_.said.clear();
-    if (c.named) Type("frmP1.txt(2)", "Ann Lee");
-    Type("frmP2.txt(0)", "Flowers");
-    Reply({c.answer, Answer::Yes});
-    NewEventCommand();
-    EXPECT_EQ(desk_.said[0].title, "File Properties have been Changed");
-    EXPECT_EQ(desk_.said[0].text, "Some text has been changed. Do you want to save the changes?");
-    EXPECT_EQ(TextOf("frmP2.txt(0)").isEmpty(), c.leaves);
-    EXPECT_FALSE(editing.ActionCancelled);
-    EXPECT_EQ(Exists("Ann Lee.wwf"), c.answer == Answer::Yes && c.named);
-    QFile::remove(PathOf("Ann Lee.wwf"));
-    desk_.answers.clear();
-  }
-  StartNewFile();
-  desk_.said.clear();
-  Type("frmP2.txt(0)", "x");
-  Type("frmP2.txt(0)", "");
-  NewEventCommand();
-  EXPECT_EQ(Said(), QStringList());
-}
-
 TEST_F(NewProposal, AMarkLeftByAnEarlierCancelStopsTheNextCommandOnce) {
   editing.ActionCancelled = true;
   EXPECT_FALSE(MayLeaveProposal());

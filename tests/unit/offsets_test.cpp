@@ -99,16 +99,4 @@ TEST_F(Offsets, AreReplacedThoughTheFileIsReadOnlyAndKeptWhenTheDiskIsFull) {
   EXPECT_EQ(desk.said.size(), 1);
 }
 
-TEST_F(Offsets, ShowTheFileAndLoseWhatWasOnlyApplied) {
-  Put(file, OffsetLines(360, -1080));
-  const OffsetTexts texts = OffsetsToShow();
-  EXPECT_EQ(texts.xLabel, QStringLiteral("Printer X Offset (Horizontal) - Current Value = 0.25\""));
-  EXPECT_EQ(texts.yLabel, QStringLiteral("Printer Y Offset (Horizontal) - Current Value = -0.75\""));
-  EXPECT_EQ(texts.x, QStringLiteral("0.25"));
-  ApplyOffsets("0.5", "0.5");
-  EXPECT_EQ(printing.PrinterXOffset, 720);
-  ReadPrinterOffsets();
-  EXPECT_EQ(printing.PrinterXOffset, 360);
-}
-
 }  // namespace

@@ -1,3 +1,4 @@
+#include "platform/codepage.h"
 #include "proposal_fixture.h"
 
 using namespace quillane;
@@ -7,6 +8,11 @@ namespace {
 const QString BadDeposit = QStringLiteral(
     "Deposit is not numeric. Zero will be entered. Please\ndouble-check the Deposit amount from previous "
     "records.");
+
+/// A text as a file holds it.
+QByteArray Stored(const char* text) {
+  return ToCodePage(QString::fromUtf8(text));
+}
 
 /// A current file, blank but for what a test puts at its offsets.
 class FileBytes {
@@ -57,55 +63,24 @@ TEST_F(Opening, ReadsRowsWithColumns) {
     bool columns;
     const char *shown, *quantity, *each;
   };
-  const Case cases[] = {{"\xA5"
-                         "5\xA5"
-                         "Chairs\xA7"
-                         "7.75",
-                         true, "Chairs", "5", "7.75"},
-                        {"\xA5\xA5\xA7", true, "", "", ""},
-                        {"\xA5Qty.\xA5 x \xA7"
-                         "Amt.",
-                         true, " x ", "Qty.", "Amt."},
-                        {"\xA5"
-                         "5\xA5"
-                         "Chairs",
-                         false,
-                         "\xA5"
-                         "5\xA5"
-                         "Chairs",
-                         "Qty.", "Amt."},
-                        {" \xA5"
-                         "5\xA5"
-                         "Chairs\xA7"
-                         "1",
-                         false,
-                         " \xA5"
-                         "5\xA5"
-                         "Chairs\xA7"
-                         "1",
-                         "Qty.", "Amt."}};
+  const Case cases[] = {{"¥5¥Chairs§7.75", true, "Chairs", "5", "7.75"},
+                        {"¥¥§", true, "", "", ""},
+                        {"¥Qty.¥ x §Amt.", true, " x ", "Qty.", "Amt."},
+                        {"¥5¥Chairs", false, "¥5¥Chairs", "Qty.", "Amt."},
+                        {" ¥5¥Chairs§1", false, " ¥5¥Chairs§1", "Qty.", "Amt."}};
   for (const Case& c : cases) {
     // The property file says that the row has columns; it adds none to a text that lost a sign.
-    OpenBytes(FileBytes().Row(3, c.text).Bytes(), "frmP2.txq(3).QtyBox=True\r\n");
+    OpenBytes(FileBytes().Row(3, Stored(c.text)).Bytes(), "frmP2.txq(3).QtyBox=True\r\n");
     EXPECT_EQ(page(1).HasColumns(3), c.columns) << c.text;
     EXPECT_EQ(At("frmP2.lblAt(3)").Visible(), c.columns) << c.text;
-    EXPECT_EQ(TextOf("frmP2.txt(3)"), QString::fromLatin1(c.shown)) << c.text;
+    EXPECT_EQ(TextOf("frmP2.txt(3)"), QString::fromUtf8(c.shown)) << c.text;
     EXPECT_EQ(TextOf("frmP2.txtQty(3)"), c.quantity) << c.text;
     EXPECT_EQ(TextOf("frmP2.txtAmt(3)"), c.each) << c.text;
     EXPECT_FALSE(ProposalHasChanged()) << c.text;
   }
   // Only rows have columns: the client's name may hold the signs.
-  OpenBytes(FileBytes()
-                .With(50,
-                      "\xA5"
-                      "1\xA5"
-                      "a\xA7"
-                      "2")
-                .Bytes());
-  EXPECT_EQ(TextOf("frmP1.txt(2)"), QString::fromLatin1("\xA5"
-                                                        "1\xA5"
-                                                        "a\xA7"
-                                                        "2"));
+  OpenBytes(FileBytes().With(50, Stored("¥1¥a§2")).Bytes());
+  EXPECT_EQ(TextOf("frmP1.txt(2)"), QString::fromUtf8("¥1¥a§2"));
 }
 
 TEST_F(Opening, ReadsAmountsAndTheirMarks) {
@@ -115,19 +90,15 @@ TEST_F(Opening, ReadsAmountsAndTheirMarks) {
     float amount, taxable;
   };
   const Case cases[] = {{"1,200.50", "1,200.50", false, true, 1200.5F, 1200.5F},
-                        {"\xD8"
-                         "300.00",
-                         "300.00", true, true, 300, 0},
-                        {"  \xD8 7 ", "7", true, true, 7, 0},
-                        {"\xD8"
-                         "on request",
-                         "on request", true, false, 0, 0},
+                        {"Ø300.00", "300.00", true, true, 300, 0},
+                        {"  Ø 7 ", "7", true, true, 7, 0},
+                        {"Øon request", "on request", true, false, 0, 0},
                         {"on request", "on request", false, false, 0, 0},
                         {"-50", "-50", false, true, -50, -50},
                         {"9E99", "9E99", false, false, 0, 0},
                         {"", "", false, false, 0, 0}};
   for (const Case& c : cases) {
-    OpenBytes(FileBytes().Row(4, "Item", c.stored).Bytes());
+    OpenBytes(FileBytes().Row(4, "Item", Stored(c.stored)).Bytes());
     EXPECT_EQ(TextOf("frmP2.txt(39)"), c.shown) << c.stored;
     EXPECT_EQ(At("frmP2.imgNoTax(39)").Visible(), c.exempt) << c.stored;
     EXPECT_EQ(At("frmP2.imgNoTax(39)").Hidden(), !c.exempt) << c.stored;

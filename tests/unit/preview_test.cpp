@@ -71,40 +71,6 @@ TEST_F(PreviewTest, BeginsAndEndsByEntryAndByButton) {
   }
 }
 
-TEST_F(PreviewTest, LetsNothingWriteIntoThePage) {
-  Control& area = page(1).txt[3];
-  area.SetText("Roses");
-  SetFocus(area);
-  PrintPreview();
-  EXPECT_FALSE(AcceptsTyping(area));
-  EXPECT_FALSE(DropTerm(area, "Lilies[5.00]"));
-  EXPECT_TRUE(PasteInto(area, "Lilies").isEmpty());
-  RunCommand("mnuEditTextColumns");
-  EXPECT_FALSE(page(1).HasColumns(3));
-  EXPECT_EQ(area.Text(), QStringLiteral("Roses"));
-  for (const Control* control : page(1).Controls())
-    EXPECT_EQ(control->Visible(), !control->Hidden()) << control->FullName().toStdString();
-  PrintPreview();
-  RunCommand("mnuEditTextColumns");
-  EXPECT_TRUE(page(1).HasColumns(3));
-}
-
-TEST_F(PreviewTest, ShowsWhatAPrintWouldShow) {
-  SetFocus(page(1).txt[35]);
-  page(1).txt[35].SetText("1250");
-  PrintPreview();
-  EXPECT_EQ(page(1).txt[35].Text(), QStringLiteral("1,250.00"));
-  EXPECT_EQ(page(5).txt[0].Text(), QStringLiteral("1,250.00"));
-  EXPECT_FALSE(TotalsAreStale());
-  EXPECT_EQ(proposal.HighestPage, 3);
-  EXPECT_EQ(editing.CurrentFormName, QStringLiteral("frmP2"));
-  UpdatePageButtons(CopyOfPage6);
-  EXPECT_FALSE(InPreview()) << "another page begins in editing";
-  PrintPreview();
-  EXPECT_TRUE(InPreview());
-  EXPECT_EQ(editing.CurrentFormName, QStringLiteral("frmP6_1"));
-}
-
 TEST_F(PreviewTest, ReadsTheOffsetsAnewAndReportsThem) {
   ReplaceFile(prefs.ProposalFolder + "PrinterOffsets.txt",
               "Printer X Offset: .5\r\nPrinter Y Offset:-.25\r\n");

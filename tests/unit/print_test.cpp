@@ -108,17 +108,6 @@ TEST_F(Print, SaysWhichPageIsOnItsWay) {
                          "Printing Page 2 of 4", "Printing Page 1 of 4"}));
 }
 
-TEST_F(Print, NamesDocumentsAndFilesByTheProposal) {
-  proposal.BaseName = QStringLiteral("Emily Carter");
-  PrintPageCommand(CopyOfPage6);
-  EXPECT_EQ(desk.documents.back().path,
-            prefs.ProposalFolder + QStringLiteral("Emily Carter - Page 6 Copy.pdf"));
-  proposal.CurrentFolder = QStringLiteral("/elsewhere/");
-  proposal.BaseName = QStringLiteral("Ann/Bob");
-  PrintPageCommand(1);
-  EXPECT_EQ(desk.documents.back().path, QStringLiteral("/elsewhere/Ann-Bob - Page 2.pdf"));
-}
-
 TEST_F(Print, FindsThePrinterThatWasChosenElseTheSystems) {
   struct Case {
     const char *chosen, *system, *used;
@@ -137,18 +126,6 @@ TEST_F(Print, FindsThePrinterThatWasChosenElseTheSystems) {
     EXPECT_EQ(printing.NoPrinter == 0, *given.used != '\0');
     EXPECT_EQ(upcalls().PrinterWidth != nullptr, *given.used != '\0');
   }
-}
-
-TEST_F(Print, SaysThatThereIsNoPrinterForAllPagesOnly) {
-  desk.systemPrinter.clear();
-  PrintPageCommand(0);
-  EXPECT_TRUE(desk.said.isEmpty());
-  PrintAllCommand();
-  EXPECT_EQ(desk.LastSaid(), QStringLiteral("Printer Error 482. Printer not found."));
-  EXPECT_TRUE(desk.documents.empty());
-  desk.systemPrinter = QStringLiteral("Office Laser");
-  PrintPageCommand(0);
-  EXPECT_EQ(desk.documents.size(), 1U) << "a printer that came back is found";
 }
 
 TEST_F(Print, DropsTheDocumentThatIsCancelledAndPrintsAllNoMore) {
@@ -206,11 +183,15 @@ TEST_F(Print, ShiftsThePageByTheOffsetsOfTheFile) {
   EXPECT_TRUE(desk.said.isEmpty());
 }
 
-TEST_F(Print, ReportsOffsetsThatAreNoNumbers) {
-  ReplaceFile(prefs.ProposalFolder + QStringLiteral("PrinterOffsets.txt"), "Printer X Offset:wide\r\n");
-  ReadPrinterOffsets();
-  EXPECT_TRUE(desk.LastSaid().contains(QStringLiteral("ReadPrinterOffsets")));
-  EXPECT_EQ(printing.PrinterXOffset, 0);
+TEST_F(Print, NamesDocumentsAndFilesByTheProposal) {
+  proposal.BaseName = QStringLiteral("Emily Carter");
+  PrintPageCommand(CopyOfPage6);
+  EXPECT_EQ(desk.documents.back().path,
+            prefs.ProposalFolder + QStringLiteral("Emily Carter - Page 6 Copy.pdf"));
+  proposal.CurrentFolder = QStringLiteral("/elsewhere/");
+  proposal.BaseName = QStringLiteral("Ann/Bob");
+  PrintPageCommand(1);
+  EXPECT_EQ(desk.documents.back().path, QStringLiteral("/elsewhere/Ann-Bob - Page 2.pdf"));
 }
 
 TEST_F(Print, TellsAtTheStartThatThereIsNoPrinter) {

@@ -62,13 +62,6 @@ TEST_F(PrinterChoice, ListsThemAndSelectsTheStoredOne) {
   }
 }
 
-TEST_F(PrinterChoice, StoresTheChosenOneAndUsesItAtOnce) {
-  EXPECT_TRUE(MakeDefaultPrinter("Hall Inkjet"));
-  EXPECT_EQ(desk.LastSaid(), QStringLiteral("Hall Inkjet"));
-  EXPECT_EQ(stored, QStringList{"Default Printer:Hall Inkjet"});
-  EXPECT_EQ(printing.CurrentPrinter, QStringLiteral("Hall Inkjet"));
-}
-
 TEST_F(PrinterChoice, RefusesOneThatHasGoneAndNone) {
   EXPECT_FALSE(MakeDefaultPrinter(""));
   EXPECT_TRUE(desk.said.isEmpty());
@@ -88,12 +81,6 @@ TEST_F(PrinterChoice, KeepsTheOldOneWhenTheChoiceCannotBeStored) {
   storing = false;
   EXPECT_FALSE(MakeDefaultPrinter("Hall Inkjet"));
   EXPECT_EQ(printing.CurrentPrinter, QStringLiteral("Office Laser"));
-}
-
-TEST_F(PrinterChoice, OpensItsWindowWithoutPrintersToo) {
-  ChangePrinterCommand();
-  EXPECT_TRUE(desk.said.isEmpty());
-  EXPECT_EQ(desk.shown, QStringList{"frmPrinters"});
 }
 
 }  // namespace

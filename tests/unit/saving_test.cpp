@@ -13,43 +13,6 @@ class Saving : public test::ProposalTest {
   }
 };
 
-TEST_F(Saving, NamesTheProposalAfterItsClient) {
-  TypeProposal("Ann Lee");
-  EXPECT_TRUE(SaveEventFile());
-  EXPECT_EQ(Said(), QStringList("File was saved as Ann Lee.wwf"));
-  EXPECT_TRUE(proposal.FileIsNamed);
-  EXPECT_TRUE(frame()["mnuFileDelete"].Enabled());
-  EXPECT_FALSE(ProposalHasChanged());
-  EXPECT_FALSE(Exists("Ann Lee.wpf"));
-  EXPECT_EQ(proposal.HighestPage, 2);
-  EXPECT_EQ(At("frmP6.lbl(63)").Caption(), "Page 2 of 2");
-  EXPECT_EQ(Get("Ann Lee.wwf").mid(2020, 6), "120.00");
-
-  // The same name again asks nothing; the file takes what was typed since.
-  desk_.said.clear();
-  Type("frmP1.txt(28)", "80.5");
-  EXPECT_TRUE(ProposalHasChanged());
-  EXPECT_TRUE(SaveEventFile());
-  EXPECT_EQ(Said(), QStringList("File was saved as Ann Lee.wwf"));
-  EXPECT_EQ(Get("Ann Lee.wwf").mid(2020, 6), "80.50 ");
-}
-
-TEST_F(Saving, RefusesWithoutANameOrWithOneThatNoFileMayHave) {
-  Type("frmP2.txt(0)", "Flowers");
-  EXPECT_FALSE(SaveEventFile());
-  EXPECT_EQ(desk_.LastSaid(), "Please enter the client's name in the appropriate area and save again.");
-  EXPECT_EQ(editing.Focus, &At("frmP1.txt(2)"));
-  for (const QChar c : QStringLiteral("/\\:*?<>|")) {
-    desk_.said.clear();
-    Type("frmP1.txt(2)", QStringLiteral("Ann") + c + "Lee");
-    EXPECT_FALSE(SaveEventFile());
-    EXPECT_EQ(Said(), QStringList("Action Cancelled. File Name cannot include any of \n"
-                                  "the following characters: / \\ : * ? < > |"));
-    EXPECT_FALSE(proposal.FileIsNamed);
-  }
-  EXPECT_TRUE(QDir(prefs.ProposalFolder).entryList(QDir::Files).isEmpty());
-}
-
 TEST_F(Saving, AsksBeforeItReplacesAnother) {
   Put("Ann Lee.wwf", "an older proposal");
   Put("Ann Lee.wpf", "frmP2.txt(0).FontBold=True\r\n");
@@ -205,6 +168,22 @@ TEST_F(Saving, BacksUpWhatStandsWithoutAWord) {
   At("frmP2.txt(0)").SetText("Half a line");
   BackupThisFile();  // the copy that is open is not written over
   EXPECT_EQ(Get("Backup/Ann Lee.wwf").mid(2180, 10), "Half a li ");
+}
+
+TEST_F(Saving, RefusesWithoutANameOrWithOneThatNoFileMayHave) {
+  Type("frmP2.txt(0)", "Flowers");
+  EXPECT_FALSE(SaveEventFile());
+  EXPECT_EQ(desk_.LastSaid(), "Please enter the client's name in the appropriate area and save again.");
+  EXPECT_EQ(editing.Focus, &At("frmP1.txt(2)"));
+  for (const QChar c : QStringLiteral("/\\:*?<>|")) {
+    desk_.said.clear();
+    Type("frmP1.txt(2)", QStringLiteral("Ann") + c + "Lee");
+    EXPECT_FALSE(SaveEventFile());
+    EXPECT_EQ(Said(), QStringList("Action Cancelled. File Name cannot include any of \n"
+                                  "the following characters: / \\ : * ? < > |"));
+    EXPECT_FALSE(proposal.FileIsNamed);
+  }
+  EXPECT_TRUE(QDir(prefs.ProposalFolder).entryList(QDir::Files).isEmpty());
 }
 
 }  // namespace

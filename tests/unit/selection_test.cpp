@@ -80,38 +80,6 @@ TEST_F(Selection, TakesOnlyWhatLiesWhollyInside) {
   }
 }
 
-TEST_F(Selection, OfAmountsOnlyIsRefused) {
-  RubberBandSelect(page(1), {10000, 1790, 12000, 2070});
-  EXPECT_EQ(desk.LastSaid(), "Cannot select Amount Areas only. Please copy Description Areas also.");
-  EXPECT_FALSE(editing.AreasSelected);
-  EXPECT_FALSE(IsBlue(Area(page(1), 35)));
-}
-
-TEST_F(Selection, CarriesRowsToAnotherPage) {
-  Fill(1, 2, "Bouquets", "15.00", true, true);
-  Fill(1, 3, "Courtesy", "-20.00", false, false, true);
-  CalculateMyTotals(page(1));
-  Select(1, 2, 3);
-  CopyCommand();
-  EXPECT_TRUE(selection.ClipboardFull);
-  PutCaret(0, 22);
-  PasteTextContents(page(0));
-  EXPECT_TRUE(desk.said.isEmpty()) << desk.LastSaid().toStdString();
-  EXPECT_EQ(TextAt(0, 22), "Bouquets");
-  EXPECT_TRUE(Area(page(0), 22).GetFont().bold);
-  EXPECT_EQ(Stored(0, 22), QString::fromLatin1("\xA5"
-                                               "3"
-                                               "\xA5"
-                                               "Bouquets"
-                                               "\xA7"
-                                               "5.00"));
-  EXPECT_EQ(TextAt(0, 31), "-20.00");
-  EXPECT_TRUE(page(0).imgNoTax[31].Visible());
-  EXPECT_EQ(proposal.PageSubTotal[0], -5.0F);
-  EXPECT_EQ(proposal.PageTaxable[0], 15.0F);
-  EXPECT_EQ(page(5).txt[0].Text(), "-10.00");
-}
-
 TEST_F(Selection, RefusesPastesThatHaveNoPlace) {
   Fill(1, 0, "A", "1.00");
   Fill(1, 1, "B", "2.00");
@@ -164,43 +132,6 @@ TEST_F(Selection, AsksBeforeItOverwrites) {
   EXPECT_EQ(TextAt(2, 3), "New");
 }
 
-TEST_F(Selection, DeleteIsUndoneForTheWholePage) {
-  Fill(1, 0, "Flowers", "10.00", true, true);
-  Fill(1, 1, "Gift", "4.00", false, false, true);
-  Fill(1, 9, "Other", "1.00");
-  Select(1, 0, 1);
-  DeleteTextContents(page(1));
-  EXPECT_EQ(TextAt(1, 0), "");
-  EXPECT_FALSE(page(1).HasColumns(0));
-  EXPECT_FALSE(page(1).imgNoTax[36].Visible());
-  EXPECT_TRUE(page(1).imgNoTax[36].Hidden());
-  EXPECT_FALSE(editing.AreasSelected);
-  EXPECT_EQ(page(5).txt[0].Text(), "1.00");
-  Area(page(1), 9).SetText(QStringLiteral("Changed meanwhile"));
-  UndoDelete();
-  EXPECT_EQ(TextAt(1, 0), "Flowers");
-  EXPECT_TRUE(page(1).HasColumns(0));
-  EXPECT_TRUE(Area(page(1), 0).GetFont().bold);
-  EXPECT_TRUE(page(1).imgNoTax[36].Visible());
-  EXPECT_EQ(TextAt(1, 9), "Other");
-  EXPECT_EQ(page(5).txt[0].Text(), "15.00");
-  EXPECT_EQ(page(5).txt[1].Text(), "11.00");
-  EXPECT_FALSE(editing.UndoAvailable);
-}
-
-TEST_F(Selection, UndoOnAnotherPageIsStoredWhileAMoveIsUnderWay) {
-  Fill(1, 0, "Flowers", "10.00");
-  Select(1, 0, 0);
-  DeleteTextContents(page(1));
-  Fill(2, 5, "Chairs", "3.00");
-  Select(2, 5, 5);
-  MoveCommand(Direction::Down);
-  UndoDelete();
-  EXPECT_EQ(Stored(1, 0), "Flowers");
-  EXPECT_EQ(Stored(2, 6), "Chairs");
-  EXPECT_EQ(page(5).txt[0].Text(), "13.00");
-}
-
 TEST_F(Selection, ARectangleAroundNothingLeavesNoRowCommandAlive) {
   Fill(1, 0, "Flowers", "10.00");
   Select(1, 0, 0);
@@ -208,89 +139,6 @@ TEST_F(Selection, ARectangleAroundNothingLeavesNoRowCommandAlive) {
   RubberBandSelect(page(1), {0, 0, 500, 500});
   EXPECT_FALSE(frame()["mnuEditTextDelete"].Enabled());
   EXPECT_FALSE(IsBlue(Area(page(1), 0)));
-}
-
-TEST_F(Selection, CommandsNeedABlueRowOnThePageInFront) {
-  Fill(1, 0, "Kept", "1.00");
-  Select(1, 0, 0);
-  CopyCommand();
-  for (void (*command)(Page&) : {&CutTextContents, &DeleteTextContents, &MoveContentsDown}) {
-    PutCaret(2, 0);
-    command(page(2));
-    EXPECT_EQ(desk.LastSaid(), "Nothing Selected");
-    desk.said.clear();
-  }
-  EXPECT_TRUE(selection.ClipboardFull);
-  EXPECT_EQ(selection.rows.size(), 1U);
-  EXPECT_FALSE(editing.MovingContents);
-  EXPECT_FALSE(editing.UndoAvailable);
-}
-
-TEST_F(Selection, MovesCarryEverythingAndStopAtWalls) {
-  Fill(1, 33, "Last", "7.00", true, true, true);
-  Select(1, 33, 33);
-  MoveContentsDown(page(1));
-  EXPECT_TRUE(editing.MovingContents);
-  EXPECT_EQ(TextAt(1, 34), "Last");
-  EXPECT_TRUE(IsBlue(Area(page(1), 34)));
-  EXPECT_FALSE(page(1).HasColumns(33));
-  EXPECT_EQ(TextAt(1, 68), "");
-  EXPECT_TRUE(page(1).imgNoTax[69].Visible());
-  EXPECT_EQ(proposal.AreaAmount[1][69], 0.0F) << "the figures follow when the key is released";
-  MoveContentsDown(page(1));
-  EXPECT_EQ(desk.LastSaid(), "Cannot move contents down. Out of space.");
-  FinishMove(page(1));
-  EXPECT_EQ(proposal.AreaAmount[1][69], 7.0F);
-  EXPECT_EQ(proposal.AreaAmount[1][68], 0.0F);
-  EXPECT_EQ(Stored(1, 34), QString::fromLatin1("\xA5"
-                                               "3"
-                                               "\xA5"
-                                               "Last"
-                                               "\xA7"
-                                               "5.00"));
-  EXPECT_EQ(Stored(1, 33), "");
-}
-
-TEST_F(Selection, MoveRefusalsLeaveThePage) {
-  struct Case {
-    const char* what;
-    int window, first, last;
-    bool down;
-    const char* message;
-  };
-  Fill(1, 0, "Top", "1.00");
-  Fill(1, 5, "A", "1.00");
-  Fill(1, 6, "Below", "");
-  Fill(1, 10, "B", "1.00");
-  Area(page(1), 46).SetText(QStringLiteral("2.00"));
-  Fill(0, 20, "P1", "1.00");
-  Fill(0, 27, "P1 last", "1.00");
-  for (const Case& c :
-       {Case{"top", 1, 0, 0, false, "Cannot move contents up any higher."},
-        Case{"text below", 1, 5, 5, true, "Cannot move contents down. Text exists in destination."},
-        Case{"amount below", 1, 10, 10, true, "Cannot move contents down. Text exists in destination."},
-        Case{"text above", 1, 6, 6, false, "Cannot move contents up. Text exists in destination."},
-        Case{"first row of page 1", 0, 20, 20, false, "Cannot move contents up any higher."},
-        Case{"last row of page 1", 0, 27, 27, true, "Cannot move contents down. Out of space."}}) {
-    SCOPED_TRACE(c.what);
-    Select(c.window, c.first, c.last);
-    const QString before = TextAt(c.window, c.first);
-    MoveContents(page(c.window), c.down ? Direction::Down : Direction::Up);
-    EXPECT_EQ(desk.LastSaid(), c.message);
-    EXPECT_EQ(TextAt(c.window, c.first), before);
-    EXPECT_FALSE(editing.MovingContents);
-  }
-}
-
-TEST_F(Selection, ThreeRowsWithTwoAmountsDoNotMove) {
-  Fill(1, 5, "A", "");
-  for (int area : {5, 6, 7, 40, 41}) PaintArea(page(1), area, Look::Selected);
-  editing.AreasSelected = true;
-  editing.CurrentForm = &page(1);
-  MoveContentsDown(page(1));
-  EXPECT_EQ(desk.LastSaid(),
-            "Cannot move text. The number of right-hand boxes\nmust match the number of left-hand boxes.");
-  EXPECT_EQ(TextAt(1, 5), "A");
 }
 
 TEST_F(Selection, ChangesTheCaseOfCharacters) {

@@ -39,24 +39,6 @@ TEST_F(SmallFiles, ARateInTheFileIsTakenWithoutAQuestion) {
   EXPECT_TRUE(desk.said.isEmpty());
 }
 
-TEST_F(SmallFiles, WithoutARateTheQuestionComes) {
-  for (const QByteArray bytes : {"", "     ", "0.00 ", ".00  "}) {
-    PutRate(bytes);
-    desk.said.clear();
-    GetTaxRate();
-    ASSERT_EQ(desk.said.size(), 1) << bytes.constData();
-    EXPECT_EQ(desk.said[0].text, "The current sales tax rate is 0%. Do you want to change it?");
-    EXPECT_EQ(desk.said[0].title, "Sales Tax Rate is 0.0%");
-    EXPECT_EQ(tax.TaxRate, 0);
-    EXPECT_EQ(Button(), "Tax Rate: 0%");
-  }
-  EXPECT_TRUE(desk.shown.isEmpty());
-  desk.answers.enqueue(Answer::Yes);
-  GetTaxRate();
-  EXPECT_EQ(desk.shown, QStringList{"frmTax"});
-  EXPECT_EQ(tax.TaxRateText, "0.00");
-}
-
 TEST_F(SmallFiles, AMissingFileIsMadeEmpty) {
   EXPECT_FALSE(SalesTaxFileExists());
   GetTaxRate();
@@ -120,6 +102,24 @@ TEST_F(SmallFiles, ATextOpensInTheDesktopsViewer) {
   EXPECT_FALSE(desk.WindowIsOpen("frmFUT"));
   ReadTextFile("Q:\\x.txt");
   EXPECT_TRUE(desk.LastSaid().contains("An error occurred in ReadTextFile.\nError Number: 76"));
+}
+
+TEST_F(SmallFiles, WithoutARateTheQuestionComes) {
+  for (const QByteArray bytes : {"", "     ", "0.00 ", ".00  "}) {
+    PutRate(bytes);
+    desk.said.clear();
+    GetTaxRate();
+    ASSERT_EQ(desk.said.size(), 1) << bytes.constData();
+    EXPECT_EQ(desk.said[0].text, "The current sales tax rate is 0%. Do you want to change it?");
+    EXPECT_EQ(desk.said[0].title, "Sales Tax Rate is 0.0%");
+    EXPECT_EQ(tax.TaxRate, 0);
+    EXPECT_EQ(Button(), "Tax Rate: 0%");
+  }
+  EXPECT_TRUE(desk.shown.isEmpty());
+  desk.answers.enqueue(Answer::Yes);
+  GetTaxRate();
+  EXPECT_EQ(desk.shown, QStringList{"frmTax"});
+  EXPECT_EQ(tax.TaxRateText, "0.00");
 }
 
 }  // namespace

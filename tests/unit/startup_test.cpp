@@ -123,20 +123,6 @@ TEST_F(Startup, ScrollBarFitsTheFrameAndMovesTheSheet) {
   EXPECT_EQ(frame().sheetTop, 0);
 }
 
-TEST_F(Startup, ExitAsksAndStaysUnlessTheAnswerIsNo) {
-  proposal.SavedPropertyLines = upcalls().PropertyLinesNow();  // as a blank proposal begins
-  EXPECT_TRUE(MayExit());
-  EXPECT_TRUE(desk.said.isEmpty()) << "nothing changed, nothing asked";
-  proposal.PageText[1][0] = "Flowers";
-  EXPECT_FALSE(MayExit()) << "Cancel stays";
-  EXPECT_EQ(desk.LastSaid(), "The file has been changed. Do you want to save it?");
-  EXPECT_EQ(desk.said.last().title, "Text has been Changed");
-  desk.answers.enqueue(Answer::No);
-  EXPECT_TRUE(MayExit());
-  desk.answers.enqueue(Answer::Yes);
-  EXPECT_FALSE(MayExit()) << "saved or not, the program stays open";
-}
-
 TEST_F(Startup, FontsOfTheSameMetricsCountAsInstalled) {
   struct Desk : test::FakeDesk {
     QStringList fonts;
