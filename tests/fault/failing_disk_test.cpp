@@ -159,14 +159,6 @@ TEST_F(FailingDisk, AnUnreadablePropertyFileCostsTheLookOnly) {
   EXPECT_FALSE(ProposalHasChanged());
 }
 
-TEST_F(FailingDisk, ANameThatTheFileSystemRefusesIsReported) {
-  Input(QString(300, QLatin1Char('n')));
-  EXPECT_FALSE(SaveEventFileAs());
-  ExpectReport("SaveEventFile");
-  EXPECT_EQ(Files(), files_);
-  ExpectWorkIsKept();
-}
-
 TEST_F(FailingDisk, AProposalThatCannotBeDeletedOrRestoredStaysOpen) {
   QFile::remove(PathOf("Emily Carter.wwf"));
   QDir(prefs.ProposalFolder).mkdir("Emily Carter.wwf");

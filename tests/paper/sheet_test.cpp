@@ -90,60 +90,6 @@ TEST_F(Sheet, MovesNoPixelOfATextWhenItsAreaGetsLive) {
   }
 }
 
-TEST_F(Sheet, LetsTheWalkingKeysReachTheHandlers) {
-  struct Case {
-    Qt::Key key;
-    const char* goal;
-  };
-  const Case walk[] = {{Qt::Key_Tab, "frmP2.txt(35)"},    {Qt::Key_Return, "frmP2.txt(1)"},
-                       {Qt::Key_Down, "frmP2.txt(2)"},    {Qt::Key_Enter, "frmP2.txt(37)"},
-                       {Qt::Key_Backtab, "frmP2.txt(2)"}, {Qt::Key_Up, "frmP2.txt(1)"}};
-  for (const Case& step : walk) {
-    Key(step.key, step.key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
-    EXPECT_EQ(Focus(), step.goal);
-    ASSERT_TRUE(view.Focused());
-    EXPECT_EQ(Editor().geometry(), view.PixelRect(*view.Focused()));
-  }
-  EXPECT_EQ(Text(page(1).txt[1]), "");
-}
-
-TEST_F(Sheet, GoesToTheNextPageBehindTheLastArea) {
-  SetFocus(page(1).txt[69]);
-  Key(Qt::Key_Return);
-  EXPECT_EQ(Focus(), "frmP3.txt(0)");
-  EXPECT_EQ(view.CurrentWindow(), 2);
-  Type("a");
-  EXPECT_EQ(Text(page(2).txt[0]), "a");
-}
-
-TEST_F(Sheet, TogglesColumnsOnceWithF8AndWithADoubleClick) {
-  Key(Qt::Key_F8);
-  EXPECT_TRUE(page(1).HasColumns(0));
-  EXPECT_EQ(Focus(), "frmP2.txtQty(0)");
-  Type("3");
-  EXPECT_EQ(Text(page(1).txtQty[0]), "3");
-  Key(Qt::Key_F8);
-  EXPECT_FALSE(page(1).HasColumns(0));
-  QTest::mouseClick(&view, Qt::LeftButton, {}, Inside(page(1).txt[5]));
-  QTest::mouseDClick(&view, Qt::LeftButton, {}, Inside(page(1).txt[5]));
-  EXPECT_TRUE(page(1).HasColumns(5));
-  // As a test program does it: the second click on the widget that has the focus.
-  SetFocus(page(1).txt[5]);
-  QTest::mouseDClick(&Editor(), Qt::LeftButton);
-  EXPECT_FALSE(page(1).HasColumns(5));
-}
-
-TEST_F(Sheet, PushesWordsAlongAndTakesTheCaretWithThem) {
-  for (int i = 0; i < 40; ++i) Type("rose ");
-  const float room = page(1).txt[0].Width();
-  EXPECT_LT(TextWidth(page(1).txt[0].GetFont(), page(1).txt[0].Text()), room);
-  EXPECT_EQ(Focus(), "frmP2.txt(1)");
-  EXPECT_EQ((page(1).txt[0].Text() + QLatin1Char(' ') + page(1).txt[1].Text()).count(QStringLiteral("rose")),
-            40);
-  EXPECT_EQ(Editor().text(), page(1).txt[1].Text());
-  EXPECT_EQ(Editor().cursorPosition(), page(1).txt[1].Text().size());
-}
-
 TEST_F(Sheet, TurnsWhatTheFilesCannotHoldIntoItsKinAtOnce) {
   Commit("Łódź “€5” 🌹");
   EXPECT_EQ(Text(page(1).txt[0]), FoldToCodePage(QString::fromUtf8("Łódź “€5” 🌹")).toStdString());
@@ -258,14 +204,6 @@ TEST_F(Sheet, PutsTheCaretWhereThePointerIs) {
   EXPECT_EQ(area.SelText().toStdString(), "wisteria");
 }
 
-TEST_F(Sheet, OpensTheTextMenuWithTheRightButton) {
-  static std::string asked;
-  asked.clear();
-  upcalls().PopUpTextMenu = [](Control& area) { asked = area.FullName().toStdString(); };
-  Click(page(1).txt[36], Qt::RightButton);
-  EXPECT_EQ(asked, "frmP2.txt(36)");
-}
-
 TEST_F(Sheet, PassesTheEmptyPageAndLabelsOn) {
   std::vector<std::pair<PageMouseEvent::What, Control*>> told;
   view.pageMouse = [&](const PageMouseEvent& event) { told.emplace_back(event.what, event.control); };
@@ -338,19 +276,6 @@ TEST_F(Sheet, PaintsOnlyWhatIsStale) {
   int area = 0;
   for (const QRect& rect : watch.region) area += rect.width() * rect.height();
   EXPECT_LT(area, view.width() * 60);
-}
-
-TEST_F(Sheet, StaysQuietInThePreview) {
-  Type("roses");
-  view.SetDrawMode(DrawMode::Printing);
-  EXPECT_FALSE(Editor().isVisible());
-  QTest::keyClicks(&view, QStringLiteral("x"));
-  Click(page(1).txt[7]);
-  EXPECT_EQ(Text(page(1).txt[0]), "roses");
-  EXPECT_EQ(Focus(), "frmP2.txt(0)");
-  EXPECT_TRUE(page(1).txt[0].Visible());
-  view.SetDrawMode(DrawMode::Editing);
-  EXPECT_TRUE(Editor().isVisible());
 }
 
 TEST_F(Sheet, NamesItsAreasForAScreenReader) {
