@@ -21,6 +21,14 @@ qsizetype LastFittingBlank(const Font& font, const QString& text, float width) {
   return fitting;
 }
 
+// The tail of a line that was broken further in ends without a blank: its last word and the first of the next
+// line would become one.  At a line's end the blank that was typed goes along, so the caret's place holds.
+QString Before(const QString& moved, const QString& old) {
+  const bool wouldGlue =
+      !moved.isEmpty() && !moved.back().isSpace() && !old.isEmpty() && old.front().isLetterOrNumber();
+  return wouldGlue ? moved + QLatin1Char(' ') + old : moved + old;
+}
+
 void PlaceCaretAfterPush(Control& line, Control& next, int movedLength) {
   if (editing.PushKeepCaret) {
     ++editing.CursorLocation;
@@ -46,7 +54,7 @@ void PushWords(Page& page, int area) {
   {
     Scoped cascade(editing.Cascading, true);
     line.SetText(text.left(blank));
-    next.SetText(moved + next.Text());
+    next.SetText(Before(moved, next.Text()));
   }
   // The key that began the cascade decides the caret, so only the first line places it.
   if (begunHere) PlaceCaretAfterPush(line, next, static_cast<int>(moved.size()));

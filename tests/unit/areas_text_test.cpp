@@ -66,6 +66,7 @@ TEST_F(Typing, WarnsOfTheLimitWhereTheTextIsNarrow) {
 }
 
 TEST_F(Typing, InsideALineABlankPushesTheTailAndTheCaretStays) {
+  At("frmP2.txt(1)").SetText(QStringLiteral("peonies"));
   Start("frmP2.txt(0)", Words(84) + QStringLiteral("rosey"));
   Control& line = At("frmP2.txt(0)");
   line.SetSelStart(2);
@@ -78,7 +79,7 @@ TEST_F(Typing, InsideALineABlankPushesTheTailAndTheCaretStays) {
   EXPECT_EQ(editing.CursorLocation, 4);
   EXPECT_TRUE(line.Text().startsWith(QStringLiteral("wox rd word")));
   EXPECT_EQ(line.BackColor(), colors::Cyan);
-  EXPECT_EQ(At("frmP2.txt(1)").Text(), QStringLiteral("wordrosey"));
+  EXPECT_EQ(At("frmP2.txt(1)").Text(), QStringLiteral("wordrosey peonies")) << "words stay words";
 }
 
 TEST_F(Typing, ACascadeRunsIntoTheLastRowAndEndsThere) {
