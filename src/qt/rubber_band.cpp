@@ -1,7 +1,6 @@
 #include "qt/rubber_band.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QTimerEvent>
 #include <algorithm>
 
@@ -41,6 +40,7 @@ void RubberBand::Handle(const PageMouseEvent& event) {
     case PageMouseEvent::What::Move:
       if (!pressed_) return;
       to_ = event.twips;
+      pointer_ = view_.ToPixels(to_);
       Stretch();
       return FollowPointer();
     case PageMouseEvent::What::Release:
@@ -66,20 +66,22 @@ void RubberBand::Stretch() {
 }
 
 void RubberBand::FollowPointer() {
-  const int y = view_.ToPixels(to_).y();
-  const bool outside = dragging_ && (y < 0 || y >= view_.height());
+  const bool outside = dragging_ && (pointer_.y() < 0 || pointer_.y() >= view_.height());
   if (!outside) return pull_.stop();
   if (!pull_.isActive()) pull_.start(PullEvery, this);
 }
 
 void RubberBand::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != pull_.timerId()) return;
-  const int y = view_.mapFromGlobal(QCursor::pos()).y();
+  if (event->timerId() == pull_.timerId()) Pull();
+}
+
+void RubberBand::Pull() {
+  const int y = pointer_.y();
   const int beyond = y < 0 ? y : y >= view_.height() ? y - view_.height() + 1 : 0;
   if (beyond == 0 || !dragging_) return pull_.stop();
   const int step = std::clamp(static_cast<int>(beyond * view_.TwipsPerPixel()), -LongestStep, LongestStep);
   if (view_.scrollTo) view_.scrollTo(frame().VScroll1.Value + step);
-  to_ = view_.ToTwips(view_.mapFromGlobal(QPointF(QCursor::pos())));
+  to_ = view_.ToTwips(pointer_);
   Stretch();
 }
 

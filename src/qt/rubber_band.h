@@ -2,6 +2,7 @@
 #pragma once
 #include <QBasicTimer>
 #include <QObject>
+#include <QPoint>
 #include <QPointF>
 
 namespace quillane {
@@ -17,6 +18,9 @@ class RubberBand : public QObject {
   explicit RubberBand(SheetView& view);
   /// Takes a press, move or release that did not begin on a control.
   void Handle(const PageMouseEvent& event);
+  /// Slides the sheet one step towards a pointer that is outside, the farther the faster, and stretches the
+  /// band after it.  A timer calls it for as long as the drag stays there.
+  void Pull();
 
  protected:
   void timerEvent(QTimerEvent* event) override;
@@ -30,6 +34,7 @@ class RubberBand : public QObject {
   SheetView& view_;
   QBasicTimer pull_;
   QPointF from_, to_;  ///< twips
+  QPoint pointer_;     ///< pixels of the view; the sheet slides under a pointer that rests
   bool pressed_ = false, dragging_ = false;
 };
 

@@ -8,9 +8,12 @@
 #include <QtTest>
 
 #include "model/focus.h"
+#include "model/frame.h"
 #include "model/upcalls.h"
+#include "pages/selection.h"
 #include "paper_desk.h"
 #include "platform/codepage.h"
+#include "qt/rubber_band.h"
 #include "qt/sheet_view.h"
 
 using namespace quillane;
@@ -276,6 +279,39 @@ TEST_F(Sheet, PaintsOnlyWhatIsStale) {
   int area = 0;
   for (const QRect& rect : watch.region) area += rect.width() * rect.height();
   EXPECT_LT(area, view.width() * 60);
+}
+
+TEST_F(Sheet, SlidesUnderABandThatIsPulledOutOfIt) {
+  view.resize(900, 500);
+  view.scrollTo = [this](int value) { view.SetScroll(std::clamp(value, 0, 9000)); };
+  RubberBand band(view);
+  view.pageMouse = [&](const PageMouseEvent& event) { band.Handle(event); };
+  page(1).txt[20].SetText(QStringLiteral("Roses"));
+  const auto hand = [this](QEvent::Type type, QPoint place, Qt::MouseButtons held) {
+    QMouseEvent event(type, place, view.mapToGlobal(place),
+                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(&view, &event);
+  };
+  const QPoint from = view.ToPixels({300, 1500}), under(850, 560);
+  hand(QEvent::MouseButtonPress, from, Qt::LeftButton);
+  hand(QEvent::MouseMove, QPoint(850, 400), Qt::LeftButton);
+  band.Pull();
+  EXPECT_EQ(frame().VScroll1.Value, 0) << "inside nothing slides";
+  hand(QEvent::MouseMove, under, Qt::LeftButton);
+  for (int step = 0; step < 4; ++step) {
+    const double before = view.ToTwips(QPointF(under)).y();
+    frame().VScroll1.Value = static_cast<int>(view.ToTwips({0, 0}).y());
+    band.Pull();
+    const Control& shape = page(1).shpSelect[0];
+    EXPECT_GT(view.ToTwips(QPointF(under)).y(), before);
+    EXPECT_NEAR(double{shape.Top() + shape.Height()}, view.ToTwips(QPointF(under)).y(), 1);
+    EXPECT_NEAR(double{shape.Top()}, 1500, view.TwipsPerPixel()) << "its beginning stays on the paper";
+  }
+  hand(QEvent::MouseButtonRelease, under, Qt::NoButton);
+  EXPECT_EQ(page(1).txt[0].BackColor(), colors::Blue);
+  EXPECT_EQ(page(1).txt[20].BackColor(), colors::Blue);
+  EXPECT_FALSE(page(1).shpSelect[0].Visible());
+  ClearSelection();
 }
 
 TEST_F(Sheet, NamesItsAreasForAScreenReader) {
