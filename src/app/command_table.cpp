@@ -5,8 +5,6 @@
 #include "files/event_file.h"
 #include "files/export.h"
 #include "files/file_dialog.h"
-#include "files/format_commands.h"
-#include "files/format_file.h"
 #include "files/logo.h"
 #include "files/new_proposal.h"
 #include "model/proposal.h"
@@ -101,14 +99,13 @@ const std::vector<Command> FileEntries = {
     Entry("mnuFile", "mnuFileExit", "E&xit", "", Leave),
 
     Menu("", "mnuFileFormat", "File &Format"),
-    Entry("mnuFileFormat", "mnuFileFormatNew", "&Clear Current Format", "", ClearFormatCommand),
-    Entry("mnuFileFormat", "mnuFileFormatOpen", "&Open Existing Format", "", OpenFormatCommand),
-    Entry("mnuFileFormat", "mnuFileFormatSave", "&Save Current Format", "", [] { SaveFileFormat(); }),
-    Entry("mnuFileFormat", "mnuFileFormatSaveAs", "Save Current Format &As...", "", SaveFormatAsCommand),
-    Entry("mnuFileFormat", "mnuFileFormatDelete", "Delete Current Format", "", DeleteFormatCommand),
+    Entry("mnuFileFormat", "mnuFileFormatNew", "&Clear Current Format", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatOpen", "&Open Existing Format", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatSave", "&Save Current Format", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatSaveAs", "Save Current Format &As...", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatDelete", "Delete Current Format", "", nullptr),
     Rule("mnuFileFormat"),
-    Entry("mnuFileFormat", "mnuFileFormatDefault", "Se&t Current Format as Default", "",
-          DefaultFormatCommand),
+    Entry("mnuFileFormat", "mnuFileFormatDefault", "Se&t Current Format as Default", "", nullptr),
 };
 
 const std::vector<Command> EditEntries = {

@@ -5,8 +5,7 @@
 
 namespace quillane {
 
-/// Sets the filter and the caption, and shows frmFile.
-void ShowFileDialog(const QString& filter, const QString& caption);
+/// Sets the filter, the mode and the caption, and shows frmFile.
 void OpenEventCommand();
 void OpenTextFileCommand();
 void DeleteAnyFileCommand();

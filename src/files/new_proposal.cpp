@@ -1,7 +1,6 @@
 #include "files/new_proposal.h"
 
 #include "files/event_file.h"
-#include "files/format_file.h"
 #include "files/property_file.h"
 #include "model/frame.h"
 #include "model/report.h"
@@ -126,6 +125,13 @@ void ResetStatus() {
   ShowFootnoteMark(false);
 }
 
+// A format outlives the proposals that are written on it; without one its layer only holds what the last
+// proposal left there.
+void ForgetFormatLayer() {
+  format.FormatTextRec = {};
+  format.FormatLabelRec = {};
+}
+
 void TakeDefaultFormat(bool load) {
   if (!load) return;
   const QString& path = prefs.DefaultFileFormat;
@@ -178,14 +184,12 @@ bool StartNewFile() {
   const Scoped newFile(editing.NewFile, true);
   if (desk().WindowIsOpen(QStringLiteral("frmNotes"))) desk().CloseWindow(QStringLiteral("frmNotes"));
   if (!MayEndFormatSession()) return false;
-  const bool loadFormat = DefaultFormatApplies();
+  const bool loadFormat = prefs.LoadDefaultFormat && !prefs.DefaultFileFormat.isEmpty();
   ForgetFile();
   Step([] { UpdateEventNameLabels(); });
   frame().form.caption = QStringLiteral("Quillane");
   ForgetEditing();
-  // A format outlives the proposals that are written on it; without one its layer only holds what the last
-  // proposal left there.
-  if (!format.FormatIsOpen) ForgetFormat();
+  if (!format.FormatIsOpen) ForgetFormatLayer();
   {
     const Scoped rebuilding(editing.RebuildingPages, true);
     BlankPages();
@@ -200,7 +204,6 @@ bool StartNewFile() {
     UpdatePageNumbers();
   });
   proposal.SavedPropertyLines = PropertyLinesNow();
-  format.FormatLines = FormatLinesNow();
   Step([] { upcalls().UpdatePageButtons(0); });
   Step(RebuildColumns);
   upcalls().SetEditMenuState(QStringLiteral("NothingSelected"));
@@ -227,7 +230,7 @@ bool MayLeaveProposal() {
 
 void NewEventCommand() {
   if (!MayLeaveProposal() || !StartNewFile()) return;
-  if (!DefaultFormatApplies() && !format.FormatIsOpen && !terms.FileLoaded)
+  if (!prefs.LoadDefaultFormat && !format.FormatIsOpen && !terms.FileLoaded)
     TakeTermsFile(QStringLiteral("Event Terms.fut"));
 }
 
@@ -235,7 +238,7 @@ void NewWeddingCommand() {
   if (!MayLeaveProposal()) return;
   proposal.Mode = QStringLiteral("Wedding");
   if (!StartNewFile()) return;
-  if (!DefaultFormatApplies()) ShowWeddingWords();
+  if (!prefs.LoadDefaultFormat) ShowWeddingWords();
   if (!terms.FileLoaded) TakeTermsFile(QStringLiteral("Wedding Terms.fut"));
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/proposal.h"
+#include "pages/label_props.h"
 
 namespace quillane {
 
@@ -54,7 +55,10 @@ Color ColourToMix() {
 
 void ApplyMixedColour(Color color) {
   labelEdit.LabelColor = color;
-  if (!labelEdit.LabelColorMode) proposal.UDP.FontColor = color;
+  if (labelEdit.LabelColorMode)
+    SetLabelColor(color);
+  else
+    proposal.UDP.FontColor = color;
 }
 
 }  // namespace quillane

@@ -32,7 +32,7 @@ class ColourWindow : public QDialog {
   QGridLayout* MakeBars();
   QFormLayout* MakeTexts();
   QLineEdit* AddText(QFormLayout& form, const QString& caption, const QString& name);
-  QHBoxLayout* MakeSteps();
+  QVBoxLayout* MakeSteps();
   QDialogButtonBox* MakeButtons();
   void SetBars(const ColourBars& bars);
   void Mix();
@@ -48,7 +48,9 @@ ColourWindow::ColourWindow(QWidget* parent) : QDialog(parent) {
   // The controls stand on a panel of the desktop's own colours, so that they can be read on any colour.
   auto* panel = new QFrame;
   panel->setAutoFillBackground(true);
-  panel->setPalette(QApplication::palette());
+  QPalette own = QApplication::palette();
+  own.setColor(QPalette::Window, own.color(QPalette::Window));  // said here, so that it is not inherited
+  panel->setPalette(own);
   panel->setFrameShape(QFrame::StyledPanel);
   auto* inside = new QVBoxLayout(panel);
   inside->setContentsMargins(16, 14, 16, 14);
@@ -56,9 +58,12 @@ ColourWindow::ColourWindow(QWidget* parent) : QDialog(parent) {
   auto* upper = new QHBoxLayout;
   upper->setSpacing(24);
   upper->addLayout(MakeBars());
-  upper->addLayout(MakeTexts());
+  auto* texts = new QVBoxLayout;
+  texts->addLayout(MakeTexts());
+  texts->addStretch(1);
+  texts->addLayout(MakeSteps());
+  upper->addLayout(texts, 1);
   inside->addLayout(upper);
-  inside->addLayout(MakeSteps());
   inside->addWidget(MakeButtons());
   auto* layout = new QVBoxLayout(this);
   constexpr int edge = 18, top = 96;
@@ -86,11 +91,20 @@ ColourWindow::Mixer ColourWindow::AddBar(QGridLayout& grid, int column, const QS
   };
   Mixer mixer{scroll, number(0, colour + QStringLiteral(", decimal")),
               number(1, colour + QStringLiteral(", hexadecimal"))};
-  grid.addWidget(PlainLabel(QStringLiteral("lbl") + bar, colour), 0, column, Qt::AlignHCenter);
+  auto* caption = PlainLabel(QStringLiteral("lbl") + bar, colour);
+  caption->setAlignment(Qt::AlignCenter);
+  grid.addWidget(caption, 0, column);
   grid.addWidget(scroll, 1, column, Qt::AlignHCenter);
   grid.addWidget(mixer.decimal, 2, column);
   grid.addWidget(mixer.hex, 3, column);
+  grid.setRowStretch(1, 1);
   connect(scroll, &QScrollBar::valueChanged, this, [this] { Mix(); });
+  // A bar does not show by itself that it has the keys.
+  connect(qApp, &QApplication::focusChanged, caption, [caption, scroll](const QWidget*, const QWidget* now) {
+    QFont font = caption->font();
+    font.setBold(now == scroll);
+    caption->setFont(font);
+  });
   return mixer;
 }
 
@@ -122,20 +136,19 @@ QFormLayout* ColourWindow::MakeTexts() {
   return form;
 }
 
-QHBoxLayout* ColourWindow::MakeSteps() {
-  auto* row = new QHBoxLayout;
+QVBoxLayout* ColourWindow::MakeSteps() {
+  auto* column = new QVBoxLayout;
   const auto add = [&](const QString& name, const QString& caption, int step) {
     auto* button = Named(new QPushButton(caption), name);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, [this, step] {
       for (const Mixer& mixer : mixers_) mixer.bar->setPageStep(step);
     });
-    row->addWidget(button);
+    column->addWidget(button);
   };
   add(QStringLiteral("cmdSmInc"), QStringLiteral("&Small Increments"), SmallStep);
   add(QStringLiteral("cmdNormInc"), QStringLiteral("N&ormal Increments"), NormalStep);
-  row->addStretch(1);
-  return row;
+  return column;
 }
 
 QDialogButtonBox* ColourWindow::MakeButtons() {

@@ -77,7 +77,7 @@ QGroupBox* TextPropsWindow::MakeFonts() {
   auto* layout = new QVBoxLayout(box);
   layout->addWidget(lblFontName_);
   layout->addWidget(lstFont_, 1);
-  layout->addWidget(chkItalic_);
+  layout->addWidget(chkItalic_, 0, Qt::AlignLeft);
   return box;
 }
 
@@ -92,7 +92,7 @@ QGroupBox* TextPropsWindow::MakeSizes() {
       proposal.UDP.FontSize = SizeInCaption(caption);
       Touched();
     });
-    layout->addWidget(option);
+    layout->addWidget(option, 0, Qt::AlignLeft);
     optFontSize_.push_back(option);
   }
   return box;
@@ -133,7 +133,7 @@ QDialogButtonBox* TextPropsWindow::MakeButtons() {
   auto* buttons = new QDialogButtonBox;
   QPushButton* byDefault =
       AddButton(*buttons, QStringLiteral("cmdDefault"),
-                QStringLiteral("Set these Font Properties as Default"), QDialogButtonBox::ActionRole);
+                QStringLiteral("Set these Font Properties as Default"), QDialogButtonBox::ResetRole);
   AddButton(*buttons, QStringLiteral("cmdOK"), QStringLiteral("Apply Changes"), QDialogButtonBox::AcceptRole);
   AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
   connect(byDefault, &QPushButton::clicked, this, [] { Guarded("cmdDefault_Click", MakeUserFontDefault); });

@@ -34,7 +34,6 @@ QLineEdit* AddTitle(QGridLayout& grid, int number, const QString& name, const QS
   grid.addWidget(box, row + 1, 0);
   grid.addWidget(clear, row + 1, 1);
   grid.setRowMinimumHeight(row + 2, 10);
-  box->selectAll();
   return box;
 }
 
@@ -53,7 +52,7 @@ std::unique_ptr<QDialog> MakeTitleWindow(QWidget* parent) {
                                  QStringLiteral("Your Current Proposal is Sub-titled..."), shown.subTitle);
   auto* buttons = new QDialogButtonBox;
   QPushButton* byDefault = AddButton(*buttons, QStringLiteral("cmdDefault"),
-                                     QStringLiteral("Make This Title Default"), QDialogButtonBox::ActionRole);
+                                     QStringLiteral("Make This Title Default"), QDialogButtonBox::ResetRole);
   byDefault->setToolTip(QStringLiteral("New proposals will begin with this subtitle"));
   AddButton(*buttons, QStringLiteral("cmdOK"), QStringLiteral("Save and Exit"), QDialogButtonBox::AcceptRole);
   AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
@@ -61,6 +60,7 @@ std::unique_ptr<QDialog> MakeTitleWindow(QWidget* parent) {
   layout->addLayout(grid);
   layout->addWidget(buttons);
   title->setFocus();
+  for (QLineEdit* box : {title, subTitle}) box->selectAll();
 
   QObject::connect(byDefault, &QPushButton::clicked, dialog, [subTitle] {
     Guarded("cmdDefault_Click", [subTitle] { MakeSubTitleDefault(subTitle->text()); });

@@ -114,4 +114,29 @@ TEST_F(TitlesOfPages, LeaveALabelThatWasMovedWhereItIs) {
       << "a marked record follows its label";
 }
 
+TEST_F(TitlesOfPages, AreMadeByHandOrFollowTheName) {
+  const QString noName = "Proposal for (Client's Name)";
+  struct Case {
+    QString name, typed, title;
+    bool byHand;
+  };
+  const Case cases[] = {
+      {"", noName, noName, false},
+      {"", "", noName, false},
+      {"Emily Carter", "", "Proposal for Emily Carter", false},
+      {"Emily Carter", "  ", "Proposal for Emily Carter", false},
+      {"Emily Carter", "Proposal for Emily Carter", "Proposal for Emily Carter", false},
+      {"Emily Carter", QString::fromUtf8("The \u0141\u00F3d\u017A Wedding"),
+       QString::fromUtf8("The L\u00F3dz Wedding"), true},
+      {"", "The Carter Wedding", "The Carter Wedding", true},
+  };
+  for (const Case& c : cases) {
+    proposal.BaseName = c.name;
+    SaveTitles({c.typed, "Alder - "});
+    EXPECT_EQ(TitlesToEdit().title, c.title);
+    EXPECT_EQ(proposal.TitleByHand, c.byHand) << qPrintable(c.typed);
+    EXPECT_EQ(page(2).lbl[0].Caption(), "Alder - Page 3");
+  }
+}
+
 }  // namespace

@@ -1,0 +1,149 @@
+#include "pages/label_props.h"
+
+#include <vector>
+
+#include "pages/labels.h"
+#include "pages/titles.h"
+#include "platform/numbers.h"
+
+namespace quillane {
+
+namespace {
+
+std::vector<LabelRecord> before;  // the labels of the page when the window opened
+
+Page& LabelPage() {
+  return *editing.CurrentForm;
+}
+
+Control& LabelOf(int index) {
+  return LabelPage().lbl[static_cast<size_t>(index)];
+}
+
+bool IsSelected(int index) {
+  const Control& label = LabelOf(index);
+  return IsMarked(label) && label.Caption() != prefs.CurrencySymbol && !IsCurrencySign(LabelPage(), index);
+}
+
+/// The labels that the dialog is about.
+std::vector<int> Targets() {
+  if (!labelEdit.MultipleLabelsSelected) return {labelEdit.CurrentLabel};
+  std::vector<int> targets;
+  for (int i = 0; i <= labelEdit.LabelCount; ++i)
+    if (IsSelected(i)) targets.push_back(i);
+  return targets;
+}
+
+template <class Change>
+void ForEachTarget(bool& changedFlag, Change change) {
+  changedFlag = true;
+  for (const int index : Targets()) change(LabelOf(index));
+}
+
+void ClearFlags() {
+  labelEdit.SizeChanged = labelEdit.PropChanged = labelEdit.ColorChanged = labelEdit.ItalicChanged =
+      labelEdit.UnderlineChanged = false;
+}
+
+bool AnyFlag() {
+  return labelEdit.SizeChanged || labelEdit.PropChanged || labelEdit.ColorChanged ||
+         labelEdit.ItalicChanged || labelEdit.UnderlineChanged;
+}
+
+/// The title of page 1 is the proposal's: a new caption goes to all pages, centred where the old one was.
+void TakeTitleFrom(Control& label, const QString& old) {
+  const QString title = label.Caption();
+  label.SetCaption(old);
+  SaveTitles({title, proposal.SubTitle});
+}
+
+void StoreOne(int index) {
+  Control& label = LabelOf(index);
+  const LabelRecord& old = before[static_cast<size_t>(index)];
+  const bool isTitle = LabelPage().window == 0 && index == LabelPage().LastLabel();
+  if (isTitle && label.Caption() != old.Caption) TakeTitleFrom(label, old.Caption);
+  labelEdit.CurrentLabelRec = ValuesOf(label);
+  StoreLabel(index);
+}
+
+/// A window that was only looked at leaves no mark on the proposal.
+void StoreChanges() {
+  const bool single = !labelEdit.MultipleLabelsSelected;
+  for (const int index : Targets())
+    if (single ? ValuesOf(LabelOf(index)) != before[static_cast<size_t>(index)] : AnyFlag()) StoreOne(index);
+}
+
+void PutBack() {
+  for (Control& label : LabelPage().lbl) ApplyValues(label, before[static_cast<size_t>(label.Index())]);
+}
+
+}  // namespace
+
+void LoadLabelProps() {
+  const LabelRecord& shown = labelEdit.CurrentLabelRec;
+  labelEdit.LabelCaption = shown.Caption;
+  labelEdit.LabelFontSize = shown.FontSize;
+  labelEdit.LabelBold = shown.FontBold;
+  labelEdit.LabelColor = shown.ForeColor;
+  labelEdit.LabelColorMode = labelEdit.LabelDialogCancelled = false;
+  ClearFlags();
+  editing.CurrentPage = LabelPage().pageIndex;  // a menu may have brought the window without a press
+  before.clear();
+  for (const Control& label : LabelPage().lbl) before.push_back(ValuesOf(label));
+}
+
+void SetLabelBold(bool bold) {
+  labelEdit.LabelBold = bold;
+  ForEachTarget(labelEdit.PropChanged, [&](Control& label) { label.SetFontBold(bold); });
+}
+
+void SetLabelItalic(bool italic) {
+  ForEachTarget(labelEdit.ItalicChanged, [&](Control& label) { label.SetFontItalic(italic); });
+}
+
+void SetLabelUnderline(bool underline) {
+  ForEachTarget(labelEdit.UnderlineChanged, [&](Control& label) { label.SetFontUnderline(underline); });
+}
+
+void SetLabelFontName(const QString& name) {
+  labelEdit.CurrentLabelRec.FontName = name;
+  ForEachTarget(labelEdit.PropChanged, [&](Control& label) { label.SetFontName(name); });
+}
+
+void SetLabelFontSize(float points) {
+  labelEdit.LabelFontSize = points;
+  ForEachTarget(labelEdit.SizeChanged, [&](Control& label) { label.SetFontSize(points); });
+}
+
+void SetLabelColor(Color color) {
+  labelEdit.LabelColor = color;
+  ForEachTarget(labelEdit.ColorChanged, [&](Control& label) { label.SetForeColor(color); });
+}
+
+void SetLabelCaption(const QString& caption) {
+  labelEdit.LabelCaption = caption;
+  if (!labelEdit.MultipleLabelsSelected) LabelOf(labelEdit.CurrentLabel).SetCaption(caption);
+}
+
+QString LabelFontLine() {
+  return QStringLiteral("Font = ") + labelEdit.CurrentLabelRec.FontName;
+}
+
+QString LabelSizeLine() {
+  const float size = labelEdit.LabelFontSize;
+  return QStringLiteral("Label Font Size = ") + (size == 0 ? QString() : SingleText(size));
+}
+
+void UnloadLabelProps() {
+  labelEdit.LabelColorMode = false;
+  if (labelEdit.LabelDialogCancelled)
+    PutBack();
+  else
+    StoreChanges();
+  labelEdit.LabelDialogCancelled = false;
+  ClearFlags();
+  before.clear();
+  DeselectAllLabels();
+}
+
+}  // namespace quillane

@@ -1,0 +1,140 @@
+#include "pages/label_props.h"
+
+#include "pages/colours.h"
+#include "pages/labels.h"
+#include "proposal_fixture.h"
+
+using namespace quillane;
+
+namespace {
+
+constexpr Color Red = 0x0000FF, Blue = 0xFF0000;
+
+class LabelProps : public test::ProposalTest {
+ protected:
+  /// The dialog on one label, or on all that are marked.
+  static void Begin(int window, int label) {
+    editing.CurrentForm = &page(window);
+    labelEdit.CurrentLabel = label;
+    labelEdit.LabelCount = page(window).LastLabel();
+    labelEdit.MultipleLabelsSelected = MarkedLabels(page(window)) > 1;
+    LoadCurrentLabel();
+    LoadLabelProps();
+  }
+  static void ChangeEverything() {
+    SetLabelCaption("Vows");
+    SetLabelBold(true);
+    SetLabelItalic(true);
+    SetLabelUnderline(true);
+    SetLabelFontName("Courier");
+    SetLabelFontSize(16);
+    SetLabelColor(Red);
+  }
+  static std::vector<LabelRecord> LabelsOf(int window) {
+    std::vector<LabelRecord> values;
+    for (const Control& label : page(window).lbl) values.push_back(ValuesOf(label));
+    return values;
+  }
+  static LabelRecord Stored(int page, int label) {
+    return proposal.LabelRec[static_cast<size_t>(page)][static_cast<size_t>(label)];
+  }
+  static LabelRecord InFormat(int page, int label) {
+    return format.FormatLabelRec[static_cast<size_t>(page)][static_cast<size_t>(label)];
+  }
+};
+
+TEST_F(LabelProps, ActOnTheLabelAtOnceAndAreStoredAtTheEnd) {
+  Control& label = At("frmP1.lbl(11)");
+  Mark(label);
+  Begin(0, 11);
+  EXPECT_EQ(LabelSizeLine(), "Label Font Size = 9.75");
+  ChangeEverything();
+  EXPECT_EQ(label.Caption(), "Vows");
+  EXPECT_EQ(label.GetFont(), (Font{"Courier", 16, true, true, true}));
+  EXPECT_EQ(label.ForeColor(), Red);
+  EXPECT_EQ(LabelFontLine(), "Font = Courier");
+  EXPECT_EQ(LabelSizeLine(), "Label Font Size = 16");
+  EXPECT_FALSE(Stored(0, 11).Changed);
+  UnloadLabelProps();
+  LabelRecord expected = ValuesOf(label);
+  expected.Changed = true;
+  EXPECT_EQ(Stored(0, 11), expected);
+  EXPECT_EQ(InFormat(0, 11), expected);
+  EXPECT_TRUE(PropertiesHaveChanged());
+  EXPECT_FALSE(IsMarked(label) || labelEdit.SizeChanged || labelEdit.LabelColorMode);
+}
+
+TEST_F(LabelProps, GiveEverythingBackWhenCancelled) {
+  for (const bool several : {false, true}) {
+    for (const char* name : {"frmP6.lbl(20)", "frmP6.lbl(21)"})
+      if (several) Mark(At(name));
+    const auto before = LabelsOf(5), copy = LabelsOf(CopyOfPage6);
+    Begin(5, 20);
+    ChangeEverything();
+    EXPECT_FALSE(LabelsOf(5) == before);
+    labelEdit.LabelDialogCancelled = true;
+    UnloadLabelProps();
+    EXPECT_TRUE(LabelsOf(5) == before) << several;
+    EXPECT_TRUE(LabelsOf(CopyOfPage6) == copy) << several;
+    EXPECT_FALSE(Stored(5, 20).Changed || InFormat(5, 20).Changed || PropertiesHaveChanged());
+    EXPECT_FALSE(labelEdit.LabelDialogCancelled || labelEdit.PropChanged);
+    EXPECT_EQ(MarkedLabels(page(5)), 0);
+  }
+}
+
+TEST_F(LabelProps, ReachASelectionButForItsCurrencySignsAndCaptions) {
+  for (const char* name : {"frmP2.lbl(0)", "frmP2.lbl(3)", "frmP2.lbl(37)"}) Mark(At(name));
+  const QString heading = At("frmP2.lbl(0)").Caption();
+  Begin(1, 0);
+  ChangeEverything();
+  EXPECT_TRUE(At("frmP2.lbl(37)").GetFont().bold);
+  EXPECT_EQ(At("frmP2.lbl(37)").ForeColor(), Red);
+  EXPECT_EQ(At("frmP2.lbl(3)").ForeColor(), 0) << "a currency sign";
+  EXPECT_EQ(At("frmP2.lbl(0)").Caption(), heading);
+  UnloadLabelProps();
+  EXPECT_TRUE(Stored(1, 0).Changed && Stored(1, 37).Changed && InFormat(1, 37).Changed);
+  EXPECT_FALSE(Stored(1, 3).Changed || Stored(1, 36).Changed);
+}
+
+TEST_F(LabelProps, StoreNothingThatWasOnlyLookedAt) {
+  Begin(0, 11);
+  UnloadLabelProps();
+  Mark(At("frmP1.lbl(11)"));
+  Mark(At("frmP1.lbl(12)"));
+  Begin(0, 11);
+  UnloadLabelProps();
+  EXPECT_FALSE(PropertiesHaveChanged());
+}
+
+TEST_F(LabelProps, CarryPage6ToItsCopy) {
+  Begin(5, 20);
+  SetLabelCaption("Terms");
+  SetLabelColor(Red);
+  UnloadLabelProps();
+  EXPECT_EQ(At("frmP6_1.lbl(20)").Caption(), "Terms");
+  EXPECT_EQ(At("frmP6_1.lbl(20)").ForeColor(), Red);
+}
+
+TEST_F(LabelProps, TakeAMixedColour) {
+  Begin(0, 11);
+  labelEdit.LabelColorMode = true;
+  ApplyMixedColour(Blue);
+  EXPECT_EQ(At("frmP1.lbl(11)").ForeColor(), Blue);
+  EXPECT_EQ(proposal.UDP.FontColor, 0);
+  UnloadLabelProps();
+  EXPECT_EQ(Stored(0, 11).ForeColor, Blue);
+}
+
+TEST_F(LabelProps, MakeATitleOfTheTitlesCaption) {
+  Begin(0, 45);
+  SetLabelCaption("The Carter Wedding");
+  UnloadLabelProps();
+  EXPECT_EQ(proposal.Title, "The Carter Wedding");
+  EXPECT_TRUE(proposal.TitleByHand);
+  EXPECT_EQ(At("frmP4.lbl(38)").Caption(), "The Carter Wedding");
+  EXPECT_EQ(Stored(0, 45).Caption, "The Carter Wedding");
+  const Control& title = At("frmP1.lbl(45)");
+  EXPECT_NEAR(title.Left() + title.Width() / 2, sheet::Centre, 1);
+}
+
+}  // namespace
