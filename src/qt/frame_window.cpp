@@ -28,15 +28,21 @@ namespace {
 
 FrameWindow* theWindow = nullptr;  // not owned
 
-void PopUp(const char* name) {
+/// At the pointer that was pressed; under the control when a key asks, wherever the pointer rests.
+QPoint MenuPlace(const SheetView& sheet, const Control& control) {
+  const QRect place = sheet.PixelRect(control).translated(sheet.mapToGlobal(QPoint()));
+  return place.contains(QCursor::pos()) ? QCursor::pos() : place.bottomLeft();
+}
+void PopUp(const char* name, const Control& control) {
   if (!theWindow) return;
-  if (auto* menu = theWindow->findChild<QMenu*>(QLatin1String(name))) menu->popup(QCursor::pos());
+  if (auto* menu = theWindow->findChild<QMenu*>(QLatin1String(name)))
+    menu->popup(MenuPlace(*TheSheetView(), control));
 }
-void PopUpTextMenu(Control&) {
-  PopUp("mnuEditTextBox");
+void PopUpTextMenu(Control& area) {
+  PopUp("mnuEditTextBox", area);
 }
-void PopUpLabelMenu(Control&) {
-  PopUp("mnuEditLabel");
+void PopUpLabelMenu(Control& label) {
+  PopUp("mnuEditLabel", label);
 }
 
 void RedrawPage(int window) {
