@@ -68,7 +68,8 @@ class CaptionButton : public QPushButton {
 
  private:
   QSize WithRoom(const QString& words, int room) const {
-    return {qMax(fontMetrics().horizontalAdvance(words), fontMetrics().horizontalAdvance(text())) + room, 30};
+    const int longest = qMax(fontMetrics().horizontalAdvance(words), fontMetrics().horizontalAdvance(text()));
+    return {longest + room, qMax(30, fontMetrics().height() + 12)};
   }
   QString longest_;
 };
