@@ -76,6 +76,7 @@ QGridLayout* LabelPropsWindow::MakeCaption() {
   auto* label = PlainLabel(QStringLiteral("lblCaption"), QStringLiteral("&Caption"));
   label->setBuddy(txtCaption_);
   auto* layout = new QGridLayout;
+  layout->setHorizontalSpacing(10);
   layout->addWidget(label, 0, 0);
   layout->addWidget(txtCaption_, 0, 1);
   return layout;
@@ -156,7 +157,7 @@ QGroupBox* LabelPropsWindow::MakeColours() {
   colours_ =
       new ColourChoice([](Color color) { Guarded("cmdColor_Click", [color] { SetLabelColor(color); }); });
   colours_->ShowColour(labelEdit.LabelColor);
-  auto* more = Named(new QPushButton(QStringLiteral("&More Colors")), QStringLiteral("cmdColors"));
+  auto* more = Named(new QPushButton(QStringLiteral("More Colors")), QStringLiteral("cmdColors"));
   more->setAutoDefault(false);
   connect(more, &QPushButton::clicked, this, [this] {
     labelEdit.LabelColorMode = true;

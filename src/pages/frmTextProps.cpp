@@ -105,7 +105,7 @@ QGroupBox* TextPropsWindow::MakeColours() {
     proposal.UDP.FontColor = color;
     Touched();
   });
-  auto* more = Named(new QPushButton(QStringLiteral("&More Colors")), QStringLiteral("cmdColors"));
+  auto* more = Named(new QPushButton(QStringLiteral("More Colors")), QStringLiteral("cmdColors"));
   more->setAutoDefault(false);
   connect(more, &QPushButton::clicked, this, [this] {
     desk().ShowWindow(QStringLiteral("frmRGB"), Modality::Modal);

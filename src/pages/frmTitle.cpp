@@ -1,8 +1,10 @@
 // The proposal's title and subtitle.
 #include <QDialog>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 
 #include "model/report.h"
 #include "pages/titles.h"
@@ -13,10 +15,23 @@ namespace quillane {
 
 namespace {
 
+/// A box whose text is selected whenever it gets the focus, by a click too.
+class SelectingBox : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    // The click goes on to set the caret; the selection comes after it.
+    if (event->reason() == Qt::MouseFocusReason) QTimer::singleShot(0, this, &QLineEdit::selectAll);
+  }
+};
+
 /// A label, the box under it, and the button that clears the box.
 QLineEdit* AddTitle(QGridLayout& grid, int number, const QString& name, const QString& caption,
                     const QString& text) {
-  auto* box = Named(new QLineEdit(text), name);
+  auto* box = Named(new SelectingBox(text), name);
   box->setMinimumWidth(box->fontMetrics().averageCharWidth() * 60);
   auto* label = PlainLabel(QStringLiteral("lblTitle(%1)").arg(number), caption);
   label->setBuddy(box);
@@ -60,7 +75,7 @@ std::unique_ptr<QDialog> MakeTitleWindow(QWidget* parent) {
   layout->addLayout(grid);
   layout->addWidget(buttons);
   title->setFocus();
-  for (QLineEdit* box : {title, subTitle}) box->selectAll();
+  title->selectAll();
 
   QObject::connect(byDefault, &QPushButton::clicked, dialog, [subTitle] {
     Guarded("cmdDefault_Click", [subTitle] { MakeSubTitleDefault(subTitle->text()); });

@@ -1,5 +1,7 @@
 #include "pages/label_props.h"
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "pages/labels.h"
@@ -11,6 +13,7 @@ namespace quillane {
 namespace {
 
 std::vector<LabelRecord> before;  // the labels of the page when the window opened
+std::vector<int> centred;         // its title and its heading, where they stood in the middle of the sheet
 
 Page& LabelPage() {
   return *editing.CurrentForm;
@@ -34,10 +37,27 @@ std::vector<int> Targets() {
   return targets;
 }
 
+/// A title that stood in the middle stays there when it grows.
+void KeepCentred(int index) {
+  Control& label = LabelOf(index);
+  if (std::ranges::find(centred, index) != centred.end()) label.SetLeft(sheet::Centre - label.Width() / 2);
+}
+
+void FindCentred() {
+  centred.clear();
+  for (const int index : {0, LabelPage().LastLabel()}) {
+    const Control& label = LabelOf(index);
+    if (std::abs(label.Left() + label.Width() / 2 - sheet::Centre) <= 1) centred.push_back(index);
+  }
+}
+
 template <class Change>
 void ForEachTarget(bool& changedFlag, Change change) {
   changedFlag = true;
-  for (const int index : Targets()) change(LabelOf(index));
+  for (const int index : Targets()) {
+    change(LabelOf(index));
+    KeepCentred(index);
+  }
 }
 
 void ClearFlags() {
@@ -54,6 +74,7 @@ bool AnyFlag() {
 void TakeTitleFrom(Control& label, const QString& old) {
   const QString title = label.Caption();
   label.SetCaption(old);
+  KeepCentred(label.Index());
   SaveTitles({title, proposal.SubTitle});
 }
 
@@ -90,6 +111,7 @@ void LoadLabelProps() {
   editing.CurrentPage = LabelPage().pageIndex;  // a menu may have brought the window without a press
   before.clear();
   for (const Control& label : LabelPage().lbl) before.push_back(ValuesOf(label));
+  FindCentred();
 }
 
 void SetLabelBold(bool bold) {
@@ -122,7 +144,9 @@ void SetLabelColor(Color color) {
 
 void SetLabelCaption(const QString& caption) {
   labelEdit.LabelCaption = caption;
-  if (!labelEdit.MultipleLabelsSelected) LabelOf(labelEdit.CurrentLabel).SetCaption(caption);
+  if (labelEdit.MultipleLabelsSelected) return;
+  LabelOf(labelEdit.CurrentLabel).SetCaption(caption);
+  KeepCentred(labelEdit.CurrentLabel);
 }
 
 QString LabelFontLine() {

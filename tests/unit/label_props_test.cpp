@@ -128,6 +128,7 @@ TEST_F(LabelProps, TakeAMixedColour) {
 TEST_F(LabelProps, MakeATitleOfTheTitlesCaption) {
   Begin(0, 45);
   SetLabelCaption("The Carter Wedding");
+  SetLabelFontSize(20);
   UnloadLabelProps();
   EXPECT_EQ(proposal.Title, "The Carter Wedding");
   EXPECT_TRUE(proposal.TitleByHand);
