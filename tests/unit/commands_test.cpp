@@ -1,33 +1,16 @@
 #include "app/commands.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
-#include "app/startup.h"
-#include "model/focus.h"
-#include "model/frame.h"
-#include "model/proposal.h"
-#include "platform/files.h"
-#include "unit/fake_desk.h"
+#include "connected_program.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
-class CommandTable : public ::testing::Test {
- protected:
-  CommandTable() {
-    prefs.ProgramFolder = WithSeparator(folder.path());
-    ResetState();
-    ConnectLayers();
-    BuildMenus();
-  }
-  QTemporaryDir folder;
-  test::FakeDesk desk;
-};
+using CommandTable = ConnectedProgram;
 
 QString Depth(const QString& parent) {
   if (parent.isEmpty()) return {};

@@ -136,30 +136,6 @@ TEST_F(DefaultPages, ChangeToTheAlternativeLayout) {
   EXPECT_EQ(DefaultContractLines().size(), 35);
 }
 
-TEST_F(DefaultPages, PutBackWhatWasChanged) {
-  Page& second = page(1);
-  LoadColumns(second);
-  second.lbl[3].SetLeft(100);
-  second.lbl[3].SetForeColor(colors::Red);
-  second.txt[5].SetFontBold(true);
-  ShowRowColumns(second, 5, true);
-  second.txtQty[5].SetText("12");
-  page(0).txt[2].SetFontBold(true);
-  Show();
-  EXPECT_EQ(second.lbl[3].Left(), 9900);
-  EXPECT_EQ(second.lbl[3].ForeColor(), colors::Black);
-  EXPECT_FALSE(second.txt[5].GetFont().bold);
-  EXPECT_FALSE(page(0).txt[2].GetFont().bold);
-  EXPECT_FALSE(second.HasColumns(5));
-  EXPECT_EQ(second.txtQty[5].Text(), "Qty.");
-  EXPECT_TRUE(second.txtQty[5].Hidden());
-  EXPECT_FALSE(second.lblAt[5].Visible());
-  // Only rows take the rows' place: amounts and the client's fields stay where they are.
-  EXPECT_EQ(page(0).txt[28].Left(), 10260);
-  EXPECT_EQ(page(0).txt[28].Width(), 1260);
-  EXPECT_EQ(page(0).txt[2].Left(), 2340);
-}
-
 TEST_F(DefaultPages, StoreWhatTheyPut) {
   ASSERT_EQ(proposal.DefaultLabels[0].size(), 46U);
   ASSERT_EQ(proposal.DefaultLabels[4].size(), 39U);
@@ -234,29 +210,6 @@ TEST_F(DefaultPages, RuleBlocksFiguresAndContract) {
         EXPECT_FALSE(across && through) << control->FullName().toStdString();
       }
     }
-}
-
-TEST_F(DefaultPages, RowsGetAndLoseTheirColumnsWhole) {
-  Page& second = page(1);
-  LoadColumns(second);
-  EXPECT_TRUE(second.columnsLoaded);
-  ShowRowColumns(second, 3, true);
-  EXPECT_EQ(second.txt[3].Left(), 1260);
-  EXPECT_EQ(second.txt[3].Width(), 6630);
-  EXPECT_EQ(second.lblAt[3].Caption(), "@ $");
-  EXPECT_EQ(second.lblEach[3].Caption(), "ea.");
-  for (const Control* control :
-       {&second.txtQty[3], &second.txtAmt[3], &second.lblAt[3], &second.lblEach[3]}) {
-    EXPECT_TRUE(control->Visible());
-    EXPECT_FALSE(control->Hidden());
-    EXPECT_EQ(control->Top(), second.txt[3].Top());
-  }
-  ShowRowColumns(second, 3, false);
-  EXPECT_EQ(second.txt[3].Left(), 720);
-  EXPECT_EQ(second.txt[3].Width(), 9000);
-  EXPECT_TRUE(second.txtAmt[3].Hidden());
-  ShowRowColumns(page(0), 2, true);
-  EXPECT_EQ(page(0).txt[2].Width(), 3600) << "a client's field is no row";
 }
 
 TEST_F(DefaultPages, ReportColumnsThatFail) {

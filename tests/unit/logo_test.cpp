@@ -109,8 +109,8 @@ TEST_F(LogoTest, IsKeptAsDefaultWithItsPlace) {
   format.LogoPath.clear();
   format.LogoChanged = false;
   SaveLogoAsDefault();
-  EXPECT_EQ(stored, (PreferenceValues{
-                        {"Logo File:", "ours.jpg"}, {"Logo Left:", "2880.5"}, {"Logo Top:", "0"}}));
+  EXPECT_EQ(stored,
+            (PreferenceValues{{"Logo File:", "ours.jpg"}, {"Logo Left:", "2880.5"}, {"Logo Top:", "0"}}));
   EXPECT_EQ(format.LogoPath, "ours.jpg");
   EXPECT_TRUE(format.LogoChanged);
   EXPECT_EQ(format.LogoLeft, 2880.5F);

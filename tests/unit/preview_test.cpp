@@ -1,38 +1,23 @@
 #include "print/preview.h"
 
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-
-#include "app/commands.h"
-#include "app/startup.h"
-#include "fake_desk.h"
-#include "model/focus.h"
-#include "model/frame.h"
-#include "model/proposal.h"
-#include "pages/areas.h"
+#include "connected_program.h"
 #include "pages/defaults.h"
-#include "platform/files.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
-class PreviewTest : public testing::Test {
+class PreviewTest : public ConnectedProgram {
  protected:
-  PreviewTest() {
-    prefs.ProgramFolder = WithSeparator(folder.path());
-    ResetState();
+  void SetUp() override {
+    ConnectedProgram::SetUp();
     prefs.ProposalFolder = prefs.ProgramFolder;
-    ConnectLayers();
-    BuildMenus();
     const Scoped building(editing.RebuildingPages, true);
     SetUpPages();
     ShowDefaultPages();
     UpdatePageButtons(1);
   }
-  QTemporaryDir folder;
-  test::FakeDesk desk;
 };
 
 struct States {

