@@ -69,19 +69,6 @@ class Totals : public testing::Test {
   test::FakeDesk desk_;
 };
 
-TEST_F(Totals, CarryAmountsToTheBalance) {
-  At("frmP6.txt(4)").SetText("1000");
-  Enter("frmP1.txt(28)", "1234.5");
-  EXPECT_EQ(At("frmP1.txt(28)").Text(), "1,234.50");
-  Enter("frmP5.txt(69)", "1,000");
-  const QStringList expected{"2,234.50", "2,234.50", "167.59", "2,402.09", "1000", "1,402.09"};
-  EXPECT_EQ(Figures(), expected);
-  EXPECT_EQ(Figures(6), expected);
-  EXPECT_EQ(frame()["lblTotal"].Caption(), "Running Sub-Total = $ 2,234.50");
-  EXPECT_EQ(proposal.PageText[5][3], "2,402.09");
-  EXPECT_FALSE(Stale());
-}
-
 TEST_F(Totals, TakeAnAmountAsItIsTyped) {
   Control& amount = At("frmP2.txt(36)");
   Control& sign = At("frmP2.lbl(2)");
@@ -228,15 +215,6 @@ TEST_F(Totals, ReportWhatStandsInTheAreas) {
             "All amounts have been recalculated.\nSubTotal = 1,234.50\nTaxable SubTotal = 1,234.50\n"
             "Sales Tax = 92.59\nTotal = 1,327.09\nDeposit = 20.00\nBalance = 1,307.09");
   EXPECT_FALSE(editing.CheckRunning);
-}
-
-TEST_F(Totals, TakeTheFocusedAmountFirst) {
-  focusHandlers().settle = [](Control& area) { AmountLeft(*PageOf(area), area); };
-  At("frmP2.txt(35)").SetText("12");
-  editing.Focus = &At("frmP2.txt(35)");
-  EXPECT_TRUE(CheckTheTotals());
-  EXPECT_EQ(At("frmP2.txt(35)").Text(), "12.00");
-  EXPECT_EQ(Figures()[3], "12.90");
 }
 
 TEST_F(Totals, TellWhenTheTwoAdditionsDiffer) {
