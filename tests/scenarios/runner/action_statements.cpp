@@ -43,9 +43,8 @@ void Type(World& world, const Statement& statement) {
 }
 
 void Key(World& world, const Statement& statement) {
-  const std::optional<double> times = statement.Count() > 2 ? ReadNumber(statement.At(2)) : 1;
-  if (statement.Count() < 2 || !times) throw BadStatement(QStringLiteral("key Shift+Down 3"));
-  world.hands.Key(statement.At(1), static_cast<int>(*times));
+  const double times = statement.Count() > 2 ? statement.Number(2, "key Shift+Down 3") : 1;
+  world.hands.Key(statement.At(1), static_cast<int>(times));
 }
 
 Handler Clicking(Qt::MouseButton button, Clicks clicks) {
@@ -64,25 +63,22 @@ void Hover(World& world, const Statement& statement) {
 }
 
 void DragBy(World& world, const Statement& statement) {
+  constexpr const char* grammar = "drag frmP2.lbl(0) by 360 -180";
   const Target target = Find(world.stage, statement.At(1));
-  const std::optional<double> dx = ReadNumber(statement.At(3)), dy = ReadNumber(statement.At(4));
-  if (!target.control || !target.page || !dx || !dy)
-    throw BadStatement(QStringLiteral("drag frmP2.lbl(0) by 360 -180"));
+  if (!target.control || !target.page) throw BadStatement(QLatin1String(grammar));
+  const QPointF way(statement.Number(3, grammar), statement.Number(4, grammar));
   const Box box = EditingBox(*target.control);
   const QPointF from(double{box.left} + double{box.width} / 2, double{box.top} + double{box.height} / 2);
-  world.hands.Drag(*target.page, from, from + QPointF(*dx, *dy));
+  world.hands.Drag(*target.page, from, from + way);
 }
 
 void Drag(World& world, const Statement& statement) {
   if (statement.Is(2, "by")) return DragBy(world, statement);
+  constexpr const char* grammar = "drag frmP2 600 1700 11500 3000";
   Page* page = FindPage(statement.At(1));
-  double at[4]{};
-  for (size_t index = 0; index < 4; ++index) {
-    const std::optional<double> number = ReadNumber(statement.At(index + 2));
-    if (!page || !number) throw BadStatement(QStringLiteral("drag frmP2 600 1700 11500 3000"));
-    at[index] = *number;
-  }
-  world.hands.Drag(*page, {at[0], at[1]}, {at[2], at[3]});
+  if (!page) throw BadStatement(QLatin1String(grammar));
+  world.hands.Drag(*page, {statement.Number(2, grammar), statement.Number(3, grammar)},
+                   {statement.Number(4, grammar), statement.Number(5, grammar)});
 }
 
 void DragTo(World& world, const Statement& statement) {

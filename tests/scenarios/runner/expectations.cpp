@@ -68,30 +68,21 @@ void ExpectWindow(World& world, const Statement& statement) {
 }
 
 void ExpectPrinted(World& world, const Statement& statement) {
-  const std::optional<double> wanted = ReadNumber(statement.At(2));
-  if (!wanted) throw BadStatement(QStringLiteral("expect printed 3"));
+  const double wanted = statement.Number(2, "expect printed 3");
   const size_t there = world.paper.Count();
-  if (there != static_cast<size_t>(*wanted))
-    throw Failure(QStringLiteral("%1 documents").arg(*wanted), QStringLiteral("%1 documents").arg(there));
+  if (there != static_cast<size_t>(wanted))
+    throw Failure(QStringLiteral("%1 documents").arg(wanted), QStringLiteral("%1 documents").arg(there));
 }
 
 void ExpectPage(World& world, const Statement& statement) {
-  const auto bad = [] {
-    return BadStatement(
-        QStringLiteral("expect page 1 \"Balance Due\" at 7560 2160, or expect page 1 prints frmP6"));
-  };
-  const std::optional<double> number = ReadNumber(statement.At(2));
-  if (!number || statement.Count() < 4) throw bad();
-  const int sheet = static_cast<int>(*number);
-  if (statement.Is(3, "prints")) {
-    const Page* page = FindPage(statement.At(4));
-    if (!page) throw bad();
-    return world.paper.ExpectPage(sheet, *page);
-  }
+  constexpr const char* grammar = "expect page 1 \"Balance Due\" at 7560 2160, or expect page 1 prints frmP6";
+  const int sheet = static_cast<int>(statement.Number(2, grammar));
+  const Page* page = FindPage(statement.At(4));
+  const bool whole = statement.Is(3, "prints");
+  if (statement.Count() < 4 || (whole && !page)) throw BadStatement(QLatin1String(grammar));
+  if (whole) return world.paper.ExpectPage(sheet, *page);
   if (!statement.Is(4, "at")) return world.paper.ExpectText(sheet, statement.At(3));
-  const std::optional<double> left = ReadNumber(statement.At(5)), top = ReadNumber(statement.At(6));
-  if (!left || !top) throw bad();
-  world.paper.ExpectText(sheet, statement.At(3), *left, *top);
+  world.paper.ExpectText(sheet, statement.At(3), statement.Number(5, grammar), statement.Number(6, grammar));
 }
 
 void ExpectOpened(World& world, const Statement& statement) {

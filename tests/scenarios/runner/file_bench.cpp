@@ -6,22 +6,15 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <array>
 
 #include "failure.h"
+#include "platform/codepage.h"
 #include "privileges.h"
 #include "values.h"
 
 namespace quillane::scenario {
 
 namespace {
-
-/// What bytes 80 to 9F mean in Windows-1252; the other bytes are Latin-1.  Kept apart from the program's own
-/// table, which these files test.
-constexpr std::array<char16_t, 32> Upper{0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                         0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
-                                         0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                         0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
 QString Spaced(const QByteArray& bytes) {
   return QString::fromLatin1(bytes.left(64).toHex(' ').toUpper());
@@ -31,10 +24,8 @@ QString Shown(const QByteArray& bytes) {
   return InQuotes(FileText(bytes));
 }
 
-qint64 NumberAt(const Statement& statement, size_t index, const char* what) {
-  const std::optional<double> number = ReadNumber(statement.At(index));
-  if (!number) throw BadStatement(QLatin1String(what));
-  return static_cast<qint64>(*number);
+qint64 WholeNumber(const Statement& statement, size_t index, const char* grammar) {
+  return static_cast<qint64>(statement.Number(index, grammar));
 }
 
 /// The words from `from` on are bytes in hexadecimal, apart or joined.
@@ -102,26 +93,13 @@ QString Difference(const QByteArray& a, const QByteArray& b) {
 }  // namespace
 
 QByteArray FileBytes(const QString& text) {
-  QByteArray bytes;
-  for (const QChar letter : text) {
-    const auto upper = std::find(Upper.begin(), Upper.end(), letter.unicode());
-    if (upper != Upper.end())
-      bytes += static_cast<char>(0x80 + (upper - Upper.begin()));
-    else if (letter.unicode() < 0x100)
-      bytes += static_cast<char>(letter.unicode());
-    else
-      throw Failure(QStringLiteral("letters that a file can hold"), InQuotes(text));
-  }
+  const QByteArray bytes = ToCodePage(text);
+  if (FileText(bytes) != text) throw Failure(QStringLiteral("letters that a file can hold"), InQuotes(text));
   return bytes;
 }
 
 QString FileText(const QByteArray& bytes) {
-  QString text;
-  for (const char byte : bytes) {
-    const auto code = static_cast<unsigned char>(byte);
-    text += QChar(code >= 0x80 && code < 0xA0 ? Upper[code - 0x80U] : static_cast<char16_t>(code));
-  }
-  return text;
+  return FromCodePage(bytes);
 }
 
 FileBench::~FileBench() {
@@ -169,7 +147,7 @@ void FileBench::Put(const Statement& statement) const {
   const QString path = PathOf(statement.At(1));
   if (statement.Is(2, "line") && !statement.Quoted(3) && ReadNumber(statement.At(3))) {
     QList<QByteArray> lines = LinesOf(ReadAll(path));
-    const qint64 number = NumberAt(statement, 3, "a line's number");
+    const qint64 number = WholeNumber(statement, 3, "a line's number");
     while (lines.size() < number) lines.append(QByteArray());
     lines[number - 1] = FileBytes(statement.At(4));
     Write(path, lines.join("\r\n") + "\r\n");
@@ -239,22 +217,22 @@ void FileBench::Expect(const Statement& statement) const {
   if (!exists) throw Failure(name + QStringLiteral(" exists"), QStringLiteral("it does not exist"));
   const QByteArray contents = Contents(name);
   if (statement.Is(2, "size")) {
-    if (contents.size() != NumberAt(statement, 3, "file \"name\" size N"))
+    if (contents.size() != WholeNumber(statement, 3, "file \"name\" size N"))
       throw Failure(statement.At(3) + QStringLiteral(" bytes"),
                     QStringLiteral("%1 bytes").arg(contents.size()));
   } else if (statement.Is(2, "at")) {
     const QByteArray wanted = FileBytes(statement.At(4));
     const QByteArray there =
-        contents.mid(NumberAt(statement, 3, "file \"name\" at OFFSET \"text\""), wanted.size());
+        contents.mid(WholeNumber(statement, 3, "file \"name\" at OFFSET \"text\""), wanted.size());
     if (there != wanted) throw Failure(Shown(wanted), Shown(there));
   } else if (statement.Is(2, "bytes")) {
     const QByteArray wanted = HexWords(statement, 4);
     const QByteArray there =
-        contents.mid(NumberAt(statement, 3, "file \"name\" bytes OFFSET A5 .."), wanted.size());
+        contents.mid(WholeNumber(statement, 3, "file \"name\" bytes OFFSET A5 .."), wanted.size());
     if (there != wanted) throw Failure(Spaced(wanted), Spaced(there));
   } else if (statement.Is(2, "line")) {
     const QString found =
-        ExpectLine(contents, NumberAt(statement, 3, "file \"name\" line N \"text\""), statement.At(4));
+        ExpectLine(contents, WholeNumber(statement, 3, "file \"name\" line N \"text\""), statement.At(4));
     if (!found.isEmpty()) throw Failure(InQuotes(statement.At(4)), found);
   } else if (statement.Is(2, "contains")) {
     if (!contents.contains(FileBytes(statement.At(3))))

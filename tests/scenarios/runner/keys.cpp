@@ -1,59 +1,56 @@
 #include "keys.h"
 
 #include <QStringList>
-#include <map>
 
 namespace quillane::scenario {
 
 namespace {
 
 struct Named {
+  const char* names;  ///< with blanks between them
   Qt::Key key;
-  const char* text;
+  const char* text = "";
 };
 
-const std::map<QString, Named>& NamedKeys() {
-  static const std::map<QString, Named> keys{
-      {"enter", {Qt::Key_Return, "\r"}},
-      {"return", {Qt::Key_Return, "\r"}},
-      {"tab", {Qt::Key_Tab, "\t"}},
-      {"backtab", {Qt::Key_Backtab, ""}},
-      {"escape", {Qt::Key_Escape, "\x1b"}},
-      {"esc", {Qt::Key_Escape, "\x1b"}},
-      {"backspace", {Qt::Key_Backspace, "\b"}},
-      {"back", {Qt::Key_Backspace, "\b"}},
-      {"delete", {Qt::Key_Delete, "\x7f"}},
-      {"del", {Qt::Key_Delete, "\x7f"}},
-      {"insert", {Qt::Key_Insert, ""}},
-      {"ins", {Qt::Key_Insert, ""}},
-      {"space", {Qt::Key_Space, " "}},
-      {"up", {Qt::Key_Up, ""}},
-      {"down", {Qt::Key_Down, ""}},
-      {"left", {Qt::Key_Left, ""}},
-      {"right", {Qt::Key_Right, ""}},
-      {"home", {Qt::Key_Home, ""}},
-      {"end", {Qt::Key_End, ""}},
-      {"pageup", {Qt::Key_PageUp, ""}},
-      {"pgup", {Qt::Key_PageUp, ""}},
-      {"pagedown", {Qt::Key_PageDown, ""}},
-      {"pgdn", {Qt::Key_PageDown, ""}},
-      {"pgdown", {Qt::Key_PageDown, ""}},
-      {"menu", {Qt::Key_Menu, ""}},
-      {"shift", {Qt::Key_Shift, ""}},
-      {"ctrl", {Qt::Key_Control, ""}},
-      {"control", {Qt::Key_Control, ""}},
-      {"alt", {Qt::Key_Alt, ""}},
-      {"plus", {Qt::Key_Plus, "+"}},
-  };
-  return keys;
-}
+constexpr Named NamedKeys[] = {
+    {"enter return", Qt::Key_Return, "\r"},
+    {"tab", Qt::Key_Tab, "\t"},
+    {"backtab", Qt::Key_Backtab},
+    {"escape esc", Qt::Key_Escape, "\x1b"},
+    {"backspace back", Qt::Key_Backspace, "\b"},
+    {"delete del", Qt::Key_Delete, "\x7f"},
+    {"insert ins", Qt::Key_Insert},
+    {"space", Qt::Key_Space, " "},
+    {"up", Qt::Key_Up},
+    {"down", Qt::Key_Down},
+    {"left", Qt::Key_Left},
+    {"right", Qt::Key_Right},
+    {"home", Qt::Key_Home},
+    {"end", Qt::Key_End},
+    {"pageup pgup", Qt::Key_PageUp},
+    {"pagedown pgdown pgdn", Qt::Key_PageDown},
+    {"menu", Qt::Key_Menu},
+    {"plus", Qt::Key_Plus, "+"},
+};
 
-const std::map<QString, Qt::KeyboardModifier>& Modifiers() {
-  static const std::map<QString, Qt::KeyboardModifier> modifiers{
-      {"shift", Qt::ShiftModifier}, {"ctrl", Qt::ControlModifier}, {"control", Qt::ControlModifier},
-      {"alt", Qt::AltModifier},     {"meta", Qt::MetaModifier},
-  };
-  return modifiers;
+struct Modifier {
+  const char* names;
+  Qt::Key key;
+  Qt::KeyboardModifier modifier;
+};
+
+/// In the order in which a hand holds them.
+constexpr Modifier Modifiers[] = {{"ctrl control", Qt::Key_Control, Qt::ControlModifier},
+                                  {"alt", Qt::Key_Alt, Qt::AltModifier},
+                                  {"shift", Qt::Key_Shift, Qt::ShiftModifier},
+                                  {"meta", Qt::Key_Meta, Qt::MetaModifier}};
+
+/// The row that has the name, in any case; null for none.
+template <class Row, size_t Count>
+const Row* Find(const Row (&rows)[Count], const QString& name) {
+  for (const Row& row : rows)
+    if (QString::fromLatin1(row.names).split(QLatin1Char(' ')).contains(name.toLower())) return &row;
+  return nullptr;
 }
 
 /// "F8" is 8; 0 for what is no function key.
@@ -72,10 +69,9 @@ QString TypedText(const KeyPress& press) {
 }
 
 std::optional<KeyPress> ReadName(const QString& name) {
-  const QString lower = name.toLower();
-  if (const auto found = NamedKeys().find(lower); found != NamedKeys().end())
-    return KeyPress{found->second.key, {}, QLatin1String(found->second.text)};
-  if (const int number = FunctionKey(lower))
+  if (const Named* named = Find(NamedKeys, name)) return KeyPress{named->key, {}, QLatin1String(named->text)};
+  if (const Modifier* held = Find(Modifiers, name)) return KeyPress{held->key, {}, {}};
+  if (const int number = FunctionKey(name.toLower()))
     return KeyPress{static_cast<Qt::Key>(Qt::Key_F1 + number - 1), {}, {}};
   if (name.size() != 1) return std::nullopt;
   return KeyOf(name[0]);
@@ -88,9 +84,9 @@ std::optional<KeyPress> ReadKey(const QString& combination) {
   QString name = parts.isEmpty() ? combination : parts.takeLast();
   Qt::KeyboardModifiers modifiers;
   for (const QString& part : parts) {
-    const auto found = Modifiers().find(part.toLower());
-    if (found == Modifiers().end()) return std::nullopt;
-    modifiers |= found->second;
+    const Modifier* held = Find(Modifiers, part);
+    if (!held) return std::nullopt;
+    modifiers |= held->modifier;
   }
   // "Ctrl+S" is the letter's key without Shift; "Shift+a" types its capital.
   if (name.size() == 1)
@@ -117,22 +113,15 @@ KeyPress KeyOf(QChar letter) {
 
 std::vector<Qt::Key> ModifierKeys(Qt::KeyboardModifiers modifiers) {
   std::vector<Qt::Key> keys;
-  for (const Qt::Key key : {Qt::Key_Control, Qt::Key_Alt, Qt::Key_Shift, Qt::Key_Meta})
-    if (modifiers & ModifierOf(key)) keys.push_back(key);
+  for (const Modifier& one : Modifiers)
+    if (modifiers & one.modifier) keys.push_back(one.key);
   return keys;
 }
 
 Qt::KeyboardModifier ModifierOf(Qt::Key key) {
-  switch (key) {
-    case Qt::Key_Control:
-      return Qt::ControlModifier;
-    case Qt::Key_Alt:
-      return Qt::AltModifier;
-    case Qt::Key_Shift:
-      return Qt::ShiftModifier;
-    default:
-      return Qt::MetaModifier;
-  }
+  for (const Modifier& one : Modifiers)
+    if (one.key == key) return one.modifier;
+  return Qt::NoModifier;
 }
 
 }  // namespace quillane::scenario

@@ -62,10 +62,7 @@ const Readers<ControlReader>& ControlReaders() {
       {"forecolor", [](const Control& c) { return ColourValue(c.ForeColor()); }},
       {"backcolor", [](const Control& c) { return ColourValue(c.BackColor()); }},
       {"backstyle", [](const Control& c) { return NumberValue(static_cast<int>(c.BackStyle())); }},
-      {"fontname",
-       [](const Control& c) {
-         return Value{ValueKind::Name, c.GetFont().name};
-       }},
+      {"fontname", [](const Control& c) { return NameValue(c.GetFont().name); }},
       {"fontsize", [](const Control& c) { return NumberValue(static_cast<double>(c.GetFont().size)); }},
       {"fontbold", [](const Control& c) { return BooleanValue(c.GetFont().bold); }},
       {"fontitalic", [](const Control& c) { return BooleanValue(c.GetFont().italic); }},
@@ -139,6 +136,11 @@ std::optional<Value> NumberOf(const QWidget& widget) {
   return std::nullopt;
 }
 
+std::optional<Value> LargestOf(const QWidget& widget) {
+  if (const auto* bar = As<QAbstractSlider>(widget)) return NumberValue(bar->maximum());
+  return std::nullopt;
+}
+
 struct Selection {
   int start = 0, length = 0;
   QString text;
@@ -194,16 +196,8 @@ const Readers<WidgetReader>& WidgetReaders() {
       {"text", [](const QWidget& w) { return TextOf(w); }},
       {"caption", [](const QWidget& w) { return TextOf(w); }},
       {"checked", [](const QWidget& w) { return CheckOf(w); }},
-      {"value",
-       [](const QWidget& w) {
-         const std::optional<Value> number = NumberOf(w);
-         return number ? number : CheckOf(w);
-       }},
-      {"max",
-       [](const QWidget& w) -> std::optional<Value> {
-         const auto* bar = As<QAbstractSlider>(w);
-         return bar ? std::optional(NumberValue(bar->maximum())) : std::nullopt;
-       }},
+      {"value", [](const QWidget& w) { return NumberOf(w) ? NumberOf(w) : CheckOf(w); }},
+      {"max", [](const QWidget& w) { return LargestOf(w); }},
       {"visible", [](const QWidget& w) { return BooleanValue(w.isVisible()); }},
       {"enabled", [](const QWidget& w) { return BooleanValue(w.isEnabled()); }},
       {"tooltip", [](const QWidget& w) { return TextValue(w.toolTip()); }},
@@ -215,10 +209,7 @@ const Readers<WidgetReader>& WidgetReaders() {
        [](const QWidget& w) { return ColourValue(ToColour(w.palette().color(w.foregroundRole()))); }},
       {"backcolor",
        [](const QWidget& w) { return ColourValue(ToColour(w.palette().color(w.backgroundRole()))); }},
-      {"fontname",
-       [](const QWidget& w) {
-         return Value{ValueKind::Name, w.font().family()};
-       }},
+      {"fontname", [](const QWidget& w) { return NameValue(w.font().family()); }},
       {"fontsize", [](const QWidget& w) { return NumberValue(w.font().pointSizeF()); }},
       {"fontbold", [](const QWidget& w) { return BooleanValue(w.font().bold()); }},
       {"fontitalic", [](const QWidget& w) { return BooleanValue(w.font().italic()); }},

@@ -49,10 +49,8 @@ void Clock(World& world, const Statement& statement) {
 }
 
 void Screen(World& world, const Statement& statement) {
-  const std::optional<double> width = ReadNumber(statement.At(1)), height = ReadNumber(statement.At(2));
-  if (!width || !height) throw BadStatement(QStringLiteral("screen 1024 768"));
-  world.desk.screenWidth = static_cast<int>(*width);
-  world.desk.screenHeight = static_cast<int>(*height);
+  world.desk.screenWidth = static_cast<int>(statement.Number(1, "screen 1024 768"));
+  world.desk.screenHeight = static_cast<int>(statement.Number(2, "screen 1024 768"));
 }
 
 void Printers(World& world, const Statement& statement) {

@@ -2,6 +2,9 @@
 
 #include <QRegularExpression>
 
+#include "failure.h"
+#include "values.h"
+
 namespace quillane::scenario {
 
 namespace {
@@ -87,6 +90,12 @@ void SplitIndex(ControlName& name) {
 bool Statement::Is(size_t index, const char* keyword) const {
   return index < words.size() && !words[index].quoted &&
          words[index].text.compare(QLatin1String(keyword), Qt::CaseInsensitive) == 0;
+}
+
+double Statement::Number(size_t index, const char* grammar) const {
+  const std::optional<double> number = ReadNumber(At(index));
+  if (!number) throw BadStatement(QLatin1String(grammar));
+  return *number;
 }
 
 QString Statement::Rest(size_t index) const {

@@ -25,6 +25,9 @@ struct Statement {
   bool Quoted(size_t index) const { return index < words.size() && words[index].quoted; }
   /// True when the word stands there unquoted, in any case.
   bool Is(size_t index, const char* keyword) const;
+  /// The number that stands there, decimal or hexadecimal.  Throws BadStatement with the statement's grammar
+  /// when there is none.
+  double Number(size_t index, const char* grammar) const;
   /// The words from `index` on, joined by blanks: a file name that was written without quotes.
   QString Rest(size_t index) const;
 };

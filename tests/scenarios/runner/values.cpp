@@ -35,6 +35,9 @@ bool EqualNumbers(const Value& actual, const QString& expected) {
 Value TextValue(const QString& text) {
   return {ValueKind::Text, text};
 }
+Value NameValue(const QString& text) {
+  return {ValueKind::Name, text};
+}
 Value CaptionValue(const QString& text) {
   return {ValueKind::Caption, text};
 }

@@ -24,6 +24,7 @@ struct Value {
 };
 
 Value TextValue(const QString& text);
+Value NameValue(const QString& text);
 Value CaptionValue(const QString& text);
 Value NumberValue(double number);
 Value TwipsValue(double twips);
