@@ -5,6 +5,8 @@
 #include "files/event_file.h"
 #include "files/export.h"
 #include "files/file_dialog.h"
+#include "files/format_commands.h"
+#include "files/format_file.h"
 #include "files/logo.h"
 #include "files/new_proposal.h"
 #include "model/proposal.h"
@@ -99,13 +101,14 @@ const std::vector<Command> FileEntries = {
     Entry("mnuFile", "mnuFileExit", "E&xit", "", Leave),
 
     Menu("", "mnuFileFormat", "File &Format"),
-    Entry("mnuFileFormat", "mnuFileFormatNew", "&Clear Current Format", "", nullptr),
-    Entry("mnuFileFormat", "mnuFileFormatOpen", "&Open Existing Format", "", nullptr),
-    Entry("mnuFileFormat", "mnuFileFormatSave", "&Save Current Format", "", nullptr),
-    Entry("mnuFileFormat", "mnuFileFormatSaveAs", "Save Current Format &As...", "", nullptr),
-    Entry("mnuFileFormat", "mnuFileFormatDelete", "Delete Current Format", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatNew", "&Clear Current Format", "", ClearFormatCommand),
+    Entry("mnuFileFormat", "mnuFileFormatOpen", "&Open Existing Format", "", OpenFormatCommand),
+    Entry("mnuFileFormat", "mnuFileFormatSave", "&Save Current Format", "", [] { SaveFileFormat(); }),
+    Entry("mnuFileFormat", "mnuFileFormatSaveAs", "Save Current Format &As...", "", SaveFormatAsCommand),
+    Entry("mnuFileFormat", "mnuFileFormatDelete", "Delete Current Format", "", DeleteFormatCommand),
     Rule("mnuFileFormat"),
-    Entry("mnuFileFormat", "mnuFileFormatDefault", "Se&t Current Format as Default", "", nullptr),
+    Entry("mnuFileFormat", "mnuFileFormatDefault", "Se&t Current Format as Default", "",
+          DefaultFormatCommand),
 };
 
 const std::vector<Command> EditEntries = {

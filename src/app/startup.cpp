@@ -8,6 +8,7 @@
 #include "app/preferences.h"
 #include "files/event_file.h"
 #include "files/file_dialog.h"
+#include "files/format_file.h"
 #include "files/new_proposal.h"
 #include "files/property_file.h"
 #include "files/small_files.h"
@@ -217,6 +218,7 @@ void ConnectLayers() {
   calls.SaveEventFile = [] { SaveEventFile(); };
   calls.SaveTaxRate = SaveTaxRate;
   calls.PropertyLinesNow = PropertyLinesNow;
+  calls.OpenFormat = OpenFormatFile;
   calls.CommandExists = CommandExists;
   calls.ResumeEditing = ResumeEditing;
   calls.StorePreference = [](const QString& key, const QString& value) {

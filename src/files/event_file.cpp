@@ -35,7 +35,9 @@ bool ClientNameChanged() {
 // A proposal that takes a name for the first time must not inherit the properties of a file that it replaces.
 bool PropertiesAreDue(Properties when, const QString& baseName) {
   if (when == Properties::Always || PropertiesHaveChanged()) return true;
-  return !proposal.FileIsNamed && FileExists(PropertyFolder(), baseName + PropertyFile);
+  if (proposal.FileIsNamed) return false;
+  // What a format has given a new proposal must outlive the format.
+  return format.FormatIsOpen || FileExists(PropertyFolder(), baseName + PropertyFile);
 }
 
 void WriteFiles(const QString& fileName, Properties when) {
@@ -90,16 +92,6 @@ bool SaveUnderItsName() {
   return true;
 }
 
-bool MayOverwrite(const QString& baseName) {
-  if (!FileExists(proposal.CurrentFolder, baseName + FieldFile)) return true;
-  const Answer answer = desk().MessageBox(
-      QStringLiteral("A file with the name ") + baseName + QStringLiteral(" already exists. Overwrite?"),
-      QStringLiteral("Preparing to Overwrite Existing Event File"), Buttons::YesNoCancel);
-  if (answer == Answer::Yes) return true;
-  Tell(QStringLiteral("Action Cancelled. File not saved."));
-  return false;
-}
-
 void CopySibling(const QString& from, const QString& to) {
   if (from == to)
     Raise(errors::PermissionDenied, QStringLiteral("a file cannot be copied onto itself, ") + to);
@@ -120,7 +112,7 @@ void CopySiblings(const QString& oldFootnotes, bool hadFootnotes, bool hasDeposi
 
 bool SaveUnderNewName(const QString& baseName) {
   TakeCurrentFolder();
-  if (!MayOverwrite(baseName)) return false;
+  if (!MayOverwrite(proposal.CurrentFolder, baseName, FieldFile)) return false;
   const QString oldFootnotes = proposal.FootnoteFileName;
   const bool hadFootnotes = FootnoteFileExists();
   const bool hasDeposits = FileExists(proposal.CurrentFolder, baseName + DepositFile);
@@ -144,12 +136,6 @@ QByteArray BytesAsTheyStand() {
       texts[static_cast<size_t>(p)][static_cast<size_t>(i)] = StoredForm(page(p), i);
   return EventFileBytes(texts,
                         [](int p, int i) { return !page(p).imgNoTax[static_cast<size_t>(i)].Hidden(); });
-}
-
-bool HasForbiddenCharacter(const QString& name) {
-  for (const QChar c : QStringLiteral("/\\:*?<>|"))
-    if (name.contains(c)) return true;
-  return false;
 }
 
 // While an unnamed proposal's name is being typed every twentieth key would leave a file of half a name.
@@ -210,6 +196,22 @@ void ShowDuplicateFileOptions(const QString& fileName) {
     proposal.SaveCancelled = !AskYesNo(question, QStringLiteral("Duplicate File Name on Record"));
     if (proposal.SaveCancelled) Tell(QStringLiteral("File not saved."));
   });
+}
+
+bool HasForbiddenCharacter(const QString& name) {
+  for (const QChar c : QStringLiteral("/\\:*?<>|"))
+    if (name.contains(c)) return true;
+  return false;
+}
+
+bool MayOverwrite(const QString& folder, const QString& baseName, const QString& extension) {
+  if (!FileExists(folder, baseName + extension)) return true;
+  const Answer answer = desk().MessageBox(
+      QStringLiteral("A file with the name ") + baseName + QStringLiteral(" already exists. Overwrite?"),
+      QStringLiteral("Preparing to Overwrite Existing Event File"), Buttons::YesNoCancel);
+  if (answer == Answer::Yes) return true;
+  Tell(QStringLiteral("Action Cancelled. File not saved."));
+  return false;
 }
 
 bool IllegalFileName(const QString& name) {

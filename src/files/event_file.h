@@ -26,6 +26,10 @@ void ShowClientName();
 /// fileDialog.IgnoreProperties. The file is read whole before the pages are blanked, so that an unreadable
 /// one leaves the open proposal.  True when it was read.
 bool OpenEventFile();
+/// Asks before a file that a new name has met is replaced, and tells when nothing is saved.
+bool MayOverwrite(const QString& folder, const QString& baseName, const QString& extension);
+/// True when the name has one of / \ : * ? < > |
+bool HasForbiddenCharacter(const QString& name);
 /// True, after telling the user, when the name has one of / \ : * ? < > |
 bool IllegalFileName(const QString& name);
 /// Writes the proposal as it stands into BackupFolder: no question, no message, no change of state.

@@ -1,5 +1,6 @@
 // Opening: the file's fields go onto blank pages, then the sums are worked out anew.
 #include "files/event_file.h"
+#include "files/format_file.h"
 #include "files/new_proposal.h"
 #include "files/property_file.h"
 #include "model/frame.h"
@@ -63,10 +64,11 @@ void FillText(Page& target, int area, const QString& field) {
   const QString text = WithoutTrailingBlanks(field);
   proposal.PageText[p][i] = proposal.SavedText[p][i] = text;
   const std::optional<ColumnTexts> parts = target.IsRow(area) ? SplitColumns(text) : std::nullopt;
-  if (parts)
-    FillColumns(target, area, *parts);
-  else if (!text.isEmpty())
-    target.txt[i].SetText(text);
+  if (parts) return FillColumns(target, area, *parts);
+  if (text.isEmpty()) return;
+  // A format may have given the row columns; the proposal's own text says that it has none.
+  if (target.IsRow(area) && target.HasColumns(area)) ShowRowColumns(target, area, false);
+  target.txt[i].SetText(text);
 }
 
 void FillAmount(Page& target, int area, const QString& field) {
@@ -78,10 +80,11 @@ void FillAmount(Page& target, int area, const QString& field) {
   if (exempt) {
     text = WithoutBlanks(text.mid(1));
     proposal.PageText[p][i] = proposal.SavedText[p][i] = text;
-    proposal.TextRec[p][i].TaxExempt = true;
     target.txt[i].SetText(text);
-    target.imgNoTax[i].SetShown(true);
   }
+  // Also where a format has set the mark: the amount and its tax are the proposal's own.
+  proposal.TextRec[p][i].TaxExempt = exempt;
+  target.imgNoTax[i].SetShown(exempt);
   const std::optional<float> value = ValueOf(text);
   if (!value) return;
   proposal.AreaAmount[p][i] = *value;
@@ -139,6 +142,7 @@ void TakeFileNames(const QString& folder, const QString& name) {
   proposal.FootnoteFileName = proposal.BaseName + QStringLiteral(".wxt");
   proposal.DepositFileName = proposal.BaseName + QStringLiteral(".dep");
   proposal.Title = QStringLiteral("Proposal for ") + proposal.BaseName;
+  proposal.TitleByHand = false;
 }
 
 void ShowFileNames() {
@@ -167,6 +171,7 @@ bool OpenInto(const QString& folder, const QString& name) {
   if (!fileDialog.IgnoreProperties) ReadFileProperties();
   TakeStoredForms();
   proposal.SavedPropertyLines = PropertyLinesNow();
+  format.FormatLines = FormatLinesNow();
   FindHighestPage();
   UpdatePageNumbers();
   if (prefs.ShowFUT && !terms.FileName.isEmpty()) upcalls().ReadTerms();

@@ -2,8 +2,10 @@
 
 #include <QDir>
 #include <QStorageInfo>
+#include <utility>
 
 #include "files/event_file.h"
+#include "files/format_file.h"
 #include "files/logo.h"
 #include "files/new_proposal.h"
 #include "files/small_files.h"
@@ -17,12 +19,6 @@ namespace quillane {
 namespace {
 
 const QString EventFilter = QStringLiteral("*.wwf");
-
-void ShowFileDialog(const QString& filter, const QString& caption) {
-  fileDialog.FileFilter = filter;
-  fileDialog.Caption = caption;
-  desk().ShowWindow(QStringLiteral("frmFile"), Modality::Modal);
-}
 
 bool CanBeListed(const QString& folder) {
   try {
@@ -55,6 +51,13 @@ QStringList DriveLetters() {
   return letters;
 }
 
+// The dialog opens for a format even where the planner has refused to leave the proposal, so the work is
+// asked about once more before it would be lost.
+void OpenFormatUnlessRefused() {
+  if (std::exchange(editing.ActionCancelled, false) && !PromptSaveChanges()) return;
+  OpenPickedFormat();
+}
+
 // Kinds of files whose readers are not part of this version.
 QString NotYet(const QString& filter) {
   return filter == QLatin1String("*.wft")
@@ -63,6 +66,12 @@ QString NotYet(const QString& filter) {
 }
 
 }  // namespace
+
+void ShowFileDialog(const QString& filter, const QString& caption) {
+  fileDialog.FileFilter = filter;
+  fileDialog.Caption = caption;
+  desk().ShowWindow(QStringLiteral("frmFile"), Modality::Modal);
+}
 
 QStringList Drives() {
   QStringList drives{QStringLiteral("/"), WithSeparator(QDir::homePath())};
@@ -186,6 +195,8 @@ void FileDialog::OpenPicked() {
     OpenEventFile();
   else if (filter == QLatin1String("*.txt"))
     ReadTextFile(folder + openFileName);
+  else if (filter == QLatin1String("*.wft"))
+    OpenFormatUnlessRefused();
   else if (filter == LogoFilter)
     ChooseLogo(folder + openFileName);
   else

@@ -5,7 +5,8 @@
 
 namespace quillane {
 
-/// Sets the filter, the mode and the caption, and shows frmFile.
+/// Sets the filter and the caption, and shows frmFile.
+void ShowFileDialog(const QString& filter, const QString& caption);
 void OpenEventCommand();
 void OpenTextFileCommand();
 void DeleteAnyFileCommand();

@@ -1,6 +1,7 @@
 #include "files/new_proposal.h"
 
 #include "files/event_file.h"
+#include "files/format_file.h"
 #include "files/property_file.h"
 #include "model/frame.h"
 #include "model/report.h"
@@ -125,13 +126,6 @@ void ResetStatus() {
   ShowFootnoteMark(false);
 }
 
-// A format outlives the proposals that are written on it; without one its layer only holds what the last
-// proposal left there.
-void ForgetFormatLayer() {
-  format.FormatTextRec = {};
-  format.FormatLabelRec = {};
-}
-
 void TakeDefaultFormat(bool load) {
   if (!load) return;
   const QString& path = prefs.DefaultFileFormat;
@@ -184,12 +178,14 @@ bool StartNewFile() {
   const Scoped newFile(editing.NewFile, true);
   if (desk().WindowIsOpen(QStringLiteral("frmNotes"))) desk().CloseWindow(QStringLiteral("frmNotes"));
   if (!MayEndFormatSession()) return false;
-  const bool loadFormat = prefs.LoadDefaultFormat && !prefs.DefaultFileFormat.isEmpty();
+  const bool loadFormat = DefaultFormatApplies();
   ForgetFile();
   Step([] { UpdateEventNameLabels(); });
   frame().form.caption = QStringLiteral("Quillane");
   ForgetEditing();
-  if (!format.FormatIsOpen) ForgetFormatLayer();
+  // A format outlives the proposals that are written on it; without one its layer only holds what the last
+  // proposal left there.
+  if (!format.FormatIsOpen) ForgetFormat();
   {
     const Scoped rebuilding(editing.RebuildingPages, true);
     BlankPages();
@@ -204,6 +200,7 @@ bool StartNewFile() {
     UpdatePageNumbers();
   });
   proposal.SavedPropertyLines = PropertyLinesNow();
+  format.FormatLines = FormatLinesNow();
   Step([] { upcalls().UpdatePageButtons(0); });
   Step(RebuildColumns);
   upcalls().SetEditMenuState(QStringLiteral("NothingSelected"));
@@ -230,7 +227,7 @@ bool MayLeaveProposal() {
 
 void NewEventCommand() {
   if (!MayLeaveProposal() || !StartNewFile()) return;
-  if (!prefs.LoadDefaultFormat && !format.FormatIsOpen && !terms.FileLoaded)
+  if (!DefaultFormatApplies() && !format.FormatIsOpen && !terms.FileLoaded)
     TakeTermsFile(QStringLiteral("Event Terms.fut"));
 }
 
@@ -238,7 +235,7 @@ void NewWeddingCommand() {
   if (!MayLeaveProposal()) return;
   proposal.Mode = QStringLiteral("Wedding");
   if (!StartNewFile()) return;
-  if (!prefs.LoadDefaultFormat) ShowWeddingWords();
+  if (!DefaultFormatApplies()) ShowWeddingWords();
   if (!terms.FileLoaded) TakeTermsFile(QStringLiteral("Wedding Terms.fut"));
 }
 

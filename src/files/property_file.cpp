@@ -3,12 +3,11 @@
 #include <functional>
 
 #include "files/event_file.h"
-#include "files/property_lines.h"
+#include "files/property_apply.h"
 #include "model/frame.h"
 #include "model/report.h"
 #include "pages/defaults.h"
 #include "pages/titles.h"
-#include "platform/codepage.h"
 #include "platform/files.h"
 
 namespace quillane {
@@ -42,14 +41,8 @@ QStringList BuildLines(const AreaTest& isBold, const AreaTest& hasColumns) {
   return lines;
 }
 
-Control& ControlAt(std::vector<Control>& array, int index) {
-  if (index < 0 || index >= static_cast<int>(array.size()))
-    Raise(errors::Subscript, QStringLiteral("a property line names number %1").arg(index));
-  return array[static_cast<size_t>(index)];
-}
-
 void ApplyText(Page& target, const PropertyLine& line) {
-  Control& area = ControlAt(target.txt, line.index);
+  Control& area = ControlOfLine(target.txt, line.index);
   area.SetFontBold(line.Flag("FontBold"));
   TextAreaRecord& record = TextRecOf(target.pageIndex, line.index);
   record.FontBold = line.Flag("FontBold");
@@ -66,66 +59,23 @@ bool RowFollowsLine(int pageIndex, int row, bool columns) {
   return columns ? !HasStrayMark(stored) : !SplitColumns(stored);
 }
 
-void ShowPrompts(Page& target, int row) {
-  Control& quantity = target.txtQty[static_cast<size_t>(row)];
-  Control& each = target.txtAmt[static_cast<size_t>(row)];
-  if (quantity.Text().isEmpty()) quantity.SetText(QStringLiteral("Qty."));
-  if (each.Text().isEmpty()) each.SetText(QStringLiteral("Amt."));
-}
-
 void ApplyColumns(Page& target, const PropertyLine& line) {
-  ControlAt(target.txtQty, line.index);
+  ControlOfLine(target.txtQty, line.index);
   const bool columns = line.Flag("QtyBox");
   if (!target.IsRow(line.index) || !RowFollowsLine(target.pageIndex, line.index, columns)) return;
   LoadColumns(target);
-  if (columns && !target.HasColumns(line.index)) ShowPrompts(target, line.index);
+  if (columns && !target.HasColumns(line.index)) ShowColumnPrompts(target, line.index);
   ShowRowColumns(target, line.index, columns);
   TextAreaRecord& record = TextRecOf(target.pageIndex, line.index);
   record.QtyBox = columns;
   record.PropChanged = false;
 }
 
-LabelRecord RecordOf(const Control& label) {
-  LabelRecord record;
-  record.Left = label.Left();
-  record.Top = label.Top();
-  record.Caption = label.Caption();
-  record.FontName = label.GetFont().name;
-  record.FontSize = label.GetFont().size;
-  record.FontBold = label.GetFont().bold;
-  record.ForeColor = label.ForeColor();
-  record.FontItalic = label.GetFont().italic;
-  record.FontUnderline = label.GetFont().underline;
-  return record;
-}
-
-void ShowRecord(Control& label, const LabelRecord& record) {
-  label.SetFont({record.FontName, record.FontSize, record.FontBold, record.FontItalic, record.FontUnderline});
-  label.SetForeColor(record.ForeColor);
-  label.SetCaption(record.Caption);
-  label.SetLeft(record.Left);
-  label.SetTop(record.Top);
-}
-
 void ApplyLabel(Page& target, const PropertyLine& line) {
-  Control& label = ControlAt(target.lbl, line.index);
-  LabelRecord record = RecordOf(label);  // what an older, shorter line leaves out stays as the page has it
-  TakeLabelValues(line, record);
-  ShowRecord(label, record);
-  if (target.pageIndex == 5) ShowRecord(ControlAt(page(CopyOfPage6).lbl, line.index), record);
+  LabelRecord record = ApplyLabelLine(target, line);
   proposal.LabelBackup[static_cast<size_t>(target.pageIndex)][static_cast<size_t>(line.index)] = record;
   record.Changed = record.Written = true;
   LabelRecOf(target.pageIndex, line.index) = record;
-}
-
-void ApplyFontLine(const PropertyLine& line) {
-  UserFont font;
-  font.FontName = line.Text("FontName");
-  font.FontSize = line.Single("FontSize");
-  font.FontColor = line.Integer("FontColor");
-  font.FontItalic = line.Flag("FontItalic");
-  proposal.UDP = font;
-  ApplyUserFont();
 }
 
 void ApplyLine(Page& target, const PropertyLine& line) {
@@ -163,22 +113,6 @@ void FindTitle(const QStringList& lines) {
   }
 }
 
-void ApplyLines(const QStringList& lines) {
-  int current = 0;
-  for (const QString& text : lines) {
-    if (text.isEmpty()) return;  // what stands behind an empty line is not read
-    const PropertyLine line = ParseLine(text);
-    if (line.page >= 0) current = line.page;
-    ApplyLine(page(current), line);
-  }
-}
-
-QByteArray FileBytes(const QStringList& lines) {
-  QByteArray bytes;
-  for (const QString& line : lines) bytes += ToCodePage(line) + "\r\n";
-  return bytes;
-}
-
 }  // namespace
 
 void AssignPropChanges() {
@@ -203,7 +137,7 @@ QString PropertyFolder() {
 }
 
 void SavePropertyFile(const QString& baseName) {
-  ReplaceFile(PropertyFolder() + baseName + QStringLiteral(".wpf"), FileBytes(proposal.PropertyLines));
+  ReplaceFile(PropertyFolder() + baseName + QStringLiteral(".wpf"), BytesOfLines(proposal.PropertyLines));
   proposal.SavedPropertyLines = proposal.PropertyLines;
   for (auto& labels : proposal.LabelBackup)
     for (LabelRecord& label : labels) label.Changed = false;
@@ -214,8 +148,7 @@ void ReadFileProperties() {
     proposal.PropertyLines.clear();
     const QString name = proposal.BaseName + QStringLiteral(".wpf");
     if (!FileExists(PropertyFolder(), name)) return;
-    for (const QByteArray& line : ReadFileLines(PropertyFolder() + name))
-      proposal.PropertyLines << FromCodePage(line);
+    proposal.PropertyLines = ReadPropertyLines(PropertyFolder() + name);
     if (proposal.PropertyLines.isEmpty()) return;
     ParsePropertyFile();
     CopyLabelsToRecords();
@@ -227,7 +160,7 @@ void ParsePropertyFile() {
     const Scoped parsing(editing.Parsing, true);
     const Scoped rebuilding(editing.RebuildingPages, true);
     FindTitle(proposal.PropertyLines);
-    ApplyLines(proposal.PropertyLines);
+    ApplyLines(proposal.PropertyLines, EmptyLine::EndsTheFile, ApplyLine);
   });
   if (!proposal.Title.isEmpty()) frame()["lblEvent"].SetCaption(QStringLiteral("Title: ") + proposal.Title);
 }
@@ -236,7 +169,7 @@ void CopyLabelsToRecords() {
   for (int p = 0; p < IndexedPages; ++p) {
     for (Control& label : page(p).lbl) {
       LabelRecord& stored = LabelRecOf(p, label.Index());
-      LabelRecord shown = RecordOf(label);
+      LabelRecord shown = RecordOfLabel(label);
       shown.Changed = stored.Changed;
       shown.Written = stored.Written;
       stored = shown;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/codepage.h"
+#include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
 
@@ -171,6 +173,24 @@ QString ColumnsLine(int pageIndex, int row) {
   return ControlName(pageIndex, "txq", row) + QStringLiteral(".QtyBox=True");
 }
 
+QString ColumnsLine(int pageIndex, int row, const QString& quantity, const QString& each) {
+  return ColumnsLine(pageIndex, row) + QStringLiteral(" .QtyValue=") + OneLine(quantity) +
+         QStringLiteral(" .AmtValue=") + OneLine(each);
+}
+
+QString TextLine(int pageIndex, int area, const QString& text) {
+  return ControlName(pageIndex, "txt", area) + QStringLiteral(".Text=") + OneLine(text);
+}
+
+QString ExemptLine(int pageIndex, int area) {
+  return ControlName(pageIndex, "txt", area) + QStringLiteral(".TaxExempt=True");
+}
+
+QString LogoLine(const QString& path, float left, float top) {
+  return QStringLiteral("frmP1.pic.Picture=") + path + QStringLiteral(" .Left=") + SingleText(left) +
+         QStringLiteral(" .Top=") + SingleText(top);
+}
+
 QString LabelLine(int pageIndex, int label, const LabelRecord& record) {
   // Joined piece by piece: a caption may hold "%1".
   return ControlName(pageIndex, "lbl", label) + QStringLiteral(".Left=") + SingleText(record.Left) +
@@ -186,6 +206,18 @@ QString UserFontLine(const UserFont& font) {
   return QStringLiteral("UDP.FontName=") + font.FontName + QStringLiteral(" .FontSize=") +
          SingleText(font.FontSize) + QStringLiteral(" .FontColor=") + QString::number(font.FontColor) +
          QStringLiteral(" .FontItalic=") + FlagText(font.FontItalic);
+}
+
+QStringList ReadPropertyLines(const QString& path) {
+  QStringList lines;
+  for (const QByteArray& line : ReadFileLines(path)) lines << FromCodePage(line);
+  return lines;
+}
+
+QByteArray BytesOfLines(const QStringList& lines) {
+  QByteArray bytes;
+  for (const QString& line : lines) bytes += ToCodePage(line) + "\r\n";
+  return bytes;
 }
 
 void TakeLabelValues(const PropertyLine& line, LabelRecord& record) {

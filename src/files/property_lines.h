@@ -1,6 +1,8 @@
 // The line language of property and format files: one line states the properties of one control.
 #pragma once
+#include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <map>
 
 #include "model/proposal.h"
@@ -31,8 +33,18 @@ PropertyLine ParseLine(const QString& line);
 
 QString BoldLine(int page, int area);
 QString ColumnsLine(int page, int row);
+/// What a format's line states beside that: the texts of the quantity and of the each-price.
+QString ColumnsLine(int page, int row, const QString& quantity, const QString& each);
+QString TextLine(int page, int area, const QString& text);
+QString ExemptLine(int page, int area);
+QString LogoLine(const QString& path, float left, float top);
 QString LabelLine(int page, int label, const LabelRecord& record);
 QString UserFontLine(const UserFont& font);
+
+/// The lines of a property or format file.  Throws what ReadWholeFile throws.
+QStringList ReadPropertyLines(const QString& path);
+/// The bytes of such a file, each line with its end.
+QByteArray BytesOfLines(const QStringList& lines);
 
 /// The nine values of a label line, as the record keeps them; FontItalic and FontUnderline stay as they are
 /// in `record` when an older line does not state them.

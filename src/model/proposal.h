@@ -112,10 +112,11 @@ struct FormatState {
   LabelTable FormatLabelRec;
   QString FormatName, FormatFolder;
   bool FormatIsOpen = false, FormatSessionActive = false, FormatAsDefault = false, FormatSaveAs = false;
+  bool DefaultSetAside = false;  ///< another format, or none, was chosen in place of the default for this run
   QString LogoPath;
   float LogoLeft = 0, LogoTop = 0;
   bool LogoChanged = false;
-  QStringList FormatLines;
+  QStringList FormatLines;  ///< as last written or read: a difference from what would be written is a change
 };
 
 struct EditingState {

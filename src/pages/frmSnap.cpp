@@ -40,7 +40,6 @@ QHBoxLayout* MakeQuickButtons(QDialog& dialog, QLineEdit& box) {
     button->setObjectName(QStringLiteral("cmdSnap(%1)").arg(i));
     button->setAccessibleName(inches + QStringLiteral(" inches"));
     button->setToolTip(SnapToolTip(inches));
-    button->setAutoDefault(false);
     QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, &box, inches] {
       box.setText(inches);
       TakeAndClose(dialog, box);
@@ -68,6 +67,8 @@ std::unique_ptr<QDialog> MakeSnapWindow(QWidget* parent) {
   layout->addLayout(MakeQuickButtons(*dialog, *box));
   layout->addLayout(form);
   layout->addWidget(buttons);
+  QWidget::setTabOrder(dialog->findChild<QWidget*>(QStringLiteral("cmdSnap(3)")), box);
+  QWidget::setTabOrder(box, ok);
   box->setFocus();
 
   QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);

@@ -35,9 +35,15 @@ bool StandsCentred(const Control& label) {
   return std::abs(label.Left() + label.Width() / 2 - sheet::Centre) <= 1;
 }
 
+bool CountsAsChanged(const Page& page, const Control& label) {
+  return RecordOf(page, label).Changed ||
+         format.FormatLabelRec[static_cast<size_t>(page.pageIndex)][static_cast<size_t>(label.Index())]
+             .Changed;
+}
+
 /// A label that a person has moved off the centre line stays where it was put; any other is centred again.
 void CaptionCentred(const Page& page, Control& label, const QString& caption) {
-  const bool movedByHand = RecordOf(page, label).Changed && !StandsCentred(label);
+  const bool movedByHand = CountsAsChanged(page, label) && !StandsCentred(label);
   label.SetCaption(caption);
   if (!movedByHand) label.SetLeft(sheet::Centre - label.Width() / 2);
 }

@@ -58,6 +58,14 @@ QColor ToQColor(Color color) {
   return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
 }
 
+/// A colour in which words can be read on the desktop's windows: on dark ones pure blue is next to black.
+QColor Readable(QColor colour) {
+  constexpr int lightEnough = 200;
+  if (GroundIsDark() && colour.lightness() < lightEnough)
+    colour.setHsl(colour.hslHue(), colour.hslSaturation(), lightEnough);
+  return colour;
+}
+
 }  // namespace
 
 FrameWindow::FrameWindow() {
@@ -161,7 +169,7 @@ void FrameWindow::FollowColours(const Control& control, QWidget& widget) const {
     palette.setColor(QPalette::Button, ToQColor(control.BackColor()).darker(130));
     palette.setColor(QPalette::ButtonText, Qt::white);
   } else if (control.ForeColor() != colors::Black) {
-    palette.setColor(QPalette::WindowText, ToQColor(control.ForeColor()));
+    palette.setColor(QPalette::WindowText, Readable(ToQColor(control.ForeColor())));
   }
   widget.setPalette(palette);
 }
@@ -228,6 +236,9 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
 
 void FrameWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange)
+    for (auto shown = widgets_.cbegin(); shown != widgets_.cend(); ++shown)
+      FollowColours(*shown.key(), *shown.value());
   if (event->type() != QEvent::WindowStateChange) return;
   const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
   if (before.testFlag(Qt::WindowMaximized) && windowState() == Qt::WindowNoState) CentreOnScreen();

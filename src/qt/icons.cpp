@@ -14,10 +14,6 @@ namespace {
 
 constexpr double DisabledOpacity = 0.38;
 
-bool GroundIsDark() {
-  return QApplication::palette().color(QPalette::Window).lightness() < 128;
-}
-
 /// The drawings are made for a light ground.  On a dark one their grey lines become light ones, and the
 /// sheets are left unfilled, since a light figure on white could not be read.
 QByteArray DrawingFor(const QString& source) {
@@ -82,6 +78,10 @@ class DrawingEngine : public QIconEngine {
 };
 
 }  // namespace
+
+bool GroundIsDark() {
+  return QApplication::palette().color(QPalette::Window).lightness() < 128;
+}
 
 QIcon IconOf(const QString& source) {
   return QIcon(new DrawingEngine(source));

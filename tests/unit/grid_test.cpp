@@ -5,14 +5,19 @@
 
 #include <cmath>
 
+#include "app/startup.h"
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "model/upcalls.h"
 #include "platform/runtime_error.h"
+#include "print/print.h"
 #include "unit/fake_desk.h"
 
 using namespace quillane;
 
 namespace {
+
+int redrawn = -1;
 
 class Grid : public testing::Test {
  protected:
@@ -93,6 +98,23 @@ TEST_F(Grid, OnlyTheFirstPageIsAligned) {
     AlignFormToSnap();
     EXPECT_EQ(frame().sheetTop, test.aligned);
   }
+}
+
+TEST_F(Grid, ADrawingGoesWithItsPageAndBeforeAPrint) {
+  upcalls().RedrawPage = [](int window) { redrawn = window; };
+  DrawGridCommand();
+  EXPECT_EQ(redrawn, 0);
+  ReAdjustScrollBar(1);
+  EXPECT_TRUE(layoutAids.gridDrawn[0]);
+  ReAdjustScrollBar(0);
+  EXPECT_FALSE(layoutAids.gridDrawn[0]);
+  editing.FrontWindow = 2;
+  DrawGridCommand();
+  redrawn = -1;
+  PrepareDrawing();
+  EXPECT_FALSE(layoutAids.gridDrawn[2]);
+  EXPECT_EQ(redrawn, 2);
+  upcalls() = {};
 }
 
 }  // namespace

@@ -1,0 +1,200 @@
+// Writing: what of the pages a format holds, and under which name.
+#include "files/format_file.h"
+
+#include "files/event_file.h"
+#include "files/property_apply.h"
+#include "files/property_file.h"
+#include "model/frame.h"
+#include "model/report.h"
+#include "model/upcalls.h"
+#include "pages/features.h"
+#include "pages/totals.h"
+#include "platform/codepage.h"
+#include "platform/files.h"
+#include "ui/desk.h"
+
+namespace quillane {
+
+namespace {
+
+const QString Extension = QStringLiteral(".wft");
+
+TextAreaRecord& FormatTextOf(int p, int i) {
+  return format.FormatTextRec[static_cast<size_t>(p)][static_cast<size_t>(i)];
+}
+LabelRecord& FormatLabelOf(int p, int n) {
+  return format.FormatLabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)];
+}
+
+// An amount belongs to one proposal, so it is never part of a format.
+QString FixedText(const Control& area) {
+  return IsNumericArea(area) ? QString() : area.Text();
+}
+
+// A label that the proposal's own property file has changed looks changed on the page, and a format made from
+// that page has to look the same.
+bool LabelCounts(int p, int n) {
+  return FormatLabelOf(p, n).Changed ||
+         proposal.LabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)].Changed;
+}
+
+void AddTexts(QStringList& lines) {
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreaCount(p); ++i) {
+      const Control& area = page(p).txt[static_cast<size_t>(i)];
+      const QString text = FixedText(area);
+      if (area.GetFont().bold) lines << BoldLine(p, i);
+      if (!text.isEmpty()) lines << TextLine(p, i, text);
+      if (!page(p).imgNoTax[static_cast<size_t>(i)].Hidden()) lines << ExemptLine(p, i);
+    }
+}
+
+void AddColumns(QStringList& lines) {
+  for (int p = 0; p < ItemPages; ++p)
+    for (int row = page(p).FirstRow(); row <= page(p).LastRow(); ++row) {
+      const auto i = static_cast<size_t>(row);
+      if (page(p).HasColumns(row))
+        lines << ColumnsLine(p, row, page(p).txtQty[i].Text(), page(p).txtAmt[i].Text());
+    }
+}
+
+void AddLabels(QStringList& lines) {
+  for (int p = 0; p < IndexedPages; ++p)
+    for (const Control& label : page(p).lbl)
+      if (LabelCounts(p, label.Index())) lines << LabelLine(p, label.Index(), RecordOfLabel(label));
+}
+
+// The whole answer, blanks and an extension that was typed along taken off.
+QString NameFrom(const QString& answer) {
+  QString name = FoldToCodePage(answer).trimmed();
+  if (name.endsWith(Extension, Qt::CaseInsensitive)) name.chop(Extension.size());
+  return name.trimmed();
+}
+
+QString OpenName() {
+  return format.FormatName.chopped(Extension.size());
+}
+
+// The name to save under; empty, after telling why, when there is none.
+QString ChooseName() {
+  if (!format.FormatName.isEmpty() && !format.FormatSaveAs) return OpenName();
+  const QString offered = format.FormatName.isEmpty() ? QString() : OpenName();
+  const QString name = NameFrom(desk().InputBox(QStringLiteral("Please input the File Name below."),
+                                                QStringLiteral("Saving File As..."), offered));
+  if (name.isEmpty()) {
+    Tell(QStringLiteral("No name entered. File not saved."));
+  } else if (HasForbiddenCharacter(name)) {
+    Tell(QStringLiteral("Illegal File Name. Please rename your file and exclude these characters <>:|?*/\\"));
+  } else if (MayOverwrite(format.FormatFolder, name, Extension)) {
+    return name;
+  }
+  return {};
+}
+
+void TakeFormatTexts() {
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreaCount(p); ++i)
+      FormatTextOf(p, i).Text = FixedText(page(p).txt[static_cast<size_t>(i)]);
+}
+
+bool HoldsAnything() {
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreaCount(p); ++i) {
+      const TextAreaRecord& record = FormatTextOf(p, i);
+      if (record.FontBold || record.QtyWritten || !FixedText(page(p).txt[static_cast<size_t>(i)]).isEmpty())
+        return true;
+    }
+  for (int p = 0; p < IndexedPages; ++p)
+    for (const Control& label : page(p).lbl)
+      if (LabelCounts(p, label.Index())) return true;
+  return false;
+}
+
+void ShowFormatName() {
+  // The frame's window looks at its caption when the title's label has changed.
+  Control& event = frame()["lblEvent"];
+  event.SetVisible(false);
+  event.SetVisible(true);
+  frame().form.caption = QStringLiteral("Quillane - Format File = ") + format.FormatName;
+}
+
+// What the format's file now holds needs no question any more.  A proposal with a file of its own, and the
+// amounts, are not in the format and stay unsaved.
+void MarkHeldBySavedFormat() {
+  if (proposal.FileIsNamed) return;
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreaCount(p); ++i) {
+      if (IsNumericArea(page(p).txt[static_cast<size_t>(i)])) continue;
+      const auto area = static_cast<size_t>(i);
+      proposal.SavedText[static_cast<size_t>(p)][area] = proposal.PageText[static_cast<size_t>(p)][area];
+    }
+  AssignPropChanges();
+  proposal.SavedPropertyLines = PropertyLinesNow();
+}
+
+bool StoreAsDefault() {
+  return upcalls().StorePreference(QStringLiteral("Default File Format:"),
+                                   format.FormatFolder + format.FormatName);
+}
+
+bool SaveUnder(const QString& name) {
+  SaveTextBoxFeatures();
+  if (!FormatChanged()) return false;
+  AssignFormatPropChanges();
+  CopyLabelsToRecords();
+  ReplaceFile(format.FormatFolder + name + Extension, BytesOfLines(format.FormatLines));
+  format.FormatName = name + Extension;
+  const bool stored = !format.FormatAsDefault || StoreAsDefault();
+  format.FormatIsOpen = true;
+  MarkHeldBySavedFormat();
+  ShowFormatName();
+  return stored;
+}
+
+}  // namespace
+
+QStringList FormatLinesNow() {
+  QStringList lines;
+  AddTexts(lines);
+  AddColumns(lines);
+  AddLabels(lines);
+  const Control& logo = page(0).pic[0];
+  if (!format.LogoPath.isEmpty()) lines << LogoLine(format.LogoPath, logo.Left(), logo.Top());
+  const UserFont& font = proposal.UDP;
+  if (!font.FontName.isEmpty() && font.FontSize != 0) lines << UserFontLine(font);
+  return lines;
+}
+
+void AssignFormatPropChanges() {
+  Guarded("AssignFormatPropChanges", [] {
+    TakeFormatTexts();
+    format.FormatLines = FormatLinesNow();
+    for (auto& areas : format.FormatTextRec)
+      for (TextAreaRecord& record : areas) record.QtyWritten = false;
+    for (int p = 0; p < IndexedPages; ++p)
+      for (const Control& label : page(p).lbl)
+        if (LabelCounts(p, label.Index()))
+          FormatLabelOf(p, label.Index()).Changed = FormatLabelOf(p, label.Index()).Written = true;
+  });
+}
+
+bool FormatChanged() {
+  if (format.LogoChanged) return true;
+  for (size_t p = 0; p < ItemPages; ++p)
+    for (size_t i = 0; i < AreasPerPage; ++i)
+      format.FormatTextRec[p][i].FontBold = proposal.TextRec[p][i].FontBold;
+  return HoldsAnything() || FormatLinesNow() != format.FormatLines;
+}
+
+bool SaveFileFormat() {
+  bool saved = false;
+  Guarded("SaveFileFormat", [&] {
+    TakeFocusedAmount();
+    if (format.FormatFolder.isEmpty()) format.FormatFolder = prefs.ProposalFolder;
+    const QString name = ChooseName();
+    if (!name.isEmpty()) saved = SaveUnder(name);
+  });
+  return saved;
+}
+
+}  // namespace quillane
