@@ -32,9 +32,13 @@ void PaintLines(QPainter& painter, const QTransform& toPixels, Dots dots) {
   }
 }
 
+/// The points stand row by row, so that those of a key's small rectangle are found without a look at all.
 void PaintPoints(QPainter& painter, const QTransform& toPixels, const QRectF& stale, Dots dots) {
-  for (const GridPoint& point : layoutAids.GridPoints) {
-    const QPointF at = toPixels.map(QPointF(double{point.x}, double{point.y}));
+  const QRectF twips = toPixels.inverted().mapRect(stale);
+  const auto& points = layoutAids.GridPoints;
+  auto point = std::ranges::lower_bound(points, static_cast<float>(twips.top()), {}, &GridPoint::y);
+  for (; point != points.end() && double{point->y} <= twips.bottom(); ++point) {
+    const QPointF at = toPixels.map(QPointF(double{point->x}, double{point->y}));
     if (stale.contains(at))
       painter.fillRect(QRectF(dots.Snapped(at.x()), dots.Snapped(at.y()), dots.Size(), dots.Size()),
                        PointColour);
