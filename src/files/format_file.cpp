@@ -8,6 +8,7 @@
 #include "model/report.h"
 #include "model/upcalls.h"
 #include "pages/features.h"
+#include "pages/labels.h"
 #include "pages/totals.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
@@ -61,7 +62,7 @@ void AddColumns(QStringList& lines) {
 void AddLabels(QStringList& lines) {
   for (int p = 0; p < IndexedPages; ++p)
     for (const Control& label : page(p).lbl)
-      if (LabelCounts(p, label.Index())) lines << LabelLine(p, label.Index(), RecordOfLabel(label));
+      if (LabelCounts(p, label.Index())) lines << LabelLine(p, label.Index(), ValuesOf(label));
 }
 
 // The whole answer, blanks and an extension that was typed along taken off.

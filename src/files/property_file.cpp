@@ -7,6 +7,7 @@
 #include "model/frame.h"
 #include "model/report.h"
 #include "pages/defaults.h"
+#include "pages/labels.h"
 #include "pages/titles.h"
 #include "platform/files.h"
 
@@ -169,7 +170,7 @@ void CopyLabelsToRecords() {
   for (int p = 0; p < IndexedPages; ++p) {
     for (Control& label : page(p).lbl) {
       LabelRecord& stored = LabelRecOf(p, label.Index());
-      LabelRecord shown = RecordOfLabel(label);
+      LabelRecord shown = ValuesOf(label);
       shown.Changed = stored.Changed;
       shown.Written = stored.Written;
       stored = shown;

@@ -30,13 +30,6 @@ void Store(LabelRecord& stored, const LabelRecord& values) {
   stored.Written = false;
 }
 
-/// The two sheets say whose copy they are; a caption that says so is not to make two of ours.
-QString CaptionForCopy(QString caption) {
-  if (!caption.endsWith(OurCopy)) return caption;
-  caption.chop(OurCopy.size());
-  return caption + ClientsCopy;
-}
-
 /// Slant and underline are the copy's own.
 void CarryToCopy(int index, LabelRecord values) {
   Control& label = page(CopyOfPage6).lbl[static_cast<size_t>(index)];
@@ -128,6 +121,12 @@ void ApplyValues(Control& label, const LabelRecord& values) {
   label.SetCaption(values.Caption);
   label.SetLeft(values.Left);
   label.SetTop(values.Top);
+}
+
+QString CaptionForCopy(QString caption) {
+  if (!caption.endsWith(OurCopy)) return caption;
+  caption.chop(OurCopy.size());
+  return caption + ClientsCopy;
 }
 
 void LoadCurrentLabel() {

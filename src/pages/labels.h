@@ -48,6 +48,9 @@ bool IsCurrencySign(const Page& page, int label);
 LabelRecord ValuesOf(const Control& label);
 void ApplyValues(Control& label, const LabelRecord& values);
 
+/// What a caption of frmP6 reads on the client's copy: the two sheets say whose they are.
+QString CaptionForCopy(QString caption);
+
 /// Fills labelEdit.CurrentLabelRec from CurrentLabel of editing.CurrentForm, marked or not.  Throws 9 for an
 /// index that the page does not have.
 void LoadCurrentLabel();
