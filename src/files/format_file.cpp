@@ -112,11 +112,11 @@ bool HoldsAnything() {
 }
 
 void ShowFormatName() {
+  frame().form.caption = QStringLiteral("Quillane - Format File = ") + format.FormatName;
   // The frame's window looks at its caption when the title's label has changed.
   Control& event = frame()["lblEvent"];
   event.SetVisible(false);
   event.SetVisible(true);
-  frame().form.caption = QStringLiteral("Quillane - Format File = ") + format.FormatName;
 }
 
 // What the format's file now holds needs no question any more.  A proposal with a file of its own, and the

@@ -99,7 +99,7 @@ QString LogoPathFrom(const QString& stored) {
 
 // A logo that cannot be read is told, and costs the logo alone.
 void ApplyLogo(const PropertyLine& line) {
-  const float left = line.Single("Left"), top = line.Single("Top");
+  const float left = line.Place("Left"), top = line.Place("Top");
   const QString path = LogoPathFrom(line.Text("Picture"));
   Guarded("ParseFormatFile", [&] {
     Control& logo = page(0).pic[0];

@@ -28,7 +28,7 @@ LabelRecord ApplyLabelLine(Page& target, const PropertyLine& line) {
 void ApplyFontLine(const PropertyLine& line) {
   UserFont font;
   font.FontName = line.Text("FontName");
-  font.FontSize = line.Single("FontSize");
+  font.FontSize = line.FontSize();
   font.FontColor = line.Integer("FontColor");
   font.FontItalic = line.Flag("FontItalic");
   proposal.UDP = font;

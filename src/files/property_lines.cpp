@@ -1,6 +1,7 @@
 #include "files/property_lines.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "platform/codepage.h"
@@ -64,6 +65,15 @@ const std::vector<WordSpec>& Words() {
   return words;
 }
 
+constexpr qsizetype LongestLine = 32767;
+constexpr float FarthestPlace = 100000;  // twips; several sheets beyond any edge
+constexpr float LargestFont = 1000;      // points; no letter on a sheet is larger
+
+// A report shows where the file went wrong, and not ten megabytes of it.
+QString Shown(const QString& text) {
+  return text.size() <= 80 ? text : text.left(80) + QStringLiteral("...");
+}
+
 const WordSpec* FindWord(QStringView name) {
   for (const WordSpec& word : Words())
     if (name == QLatin1String(word.name)) return &word;
@@ -88,7 +98,7 @@ std::map<QString, QString> TakeValues(const QString& body, const std::vector<Key
   for (const KeySpec& spec : keys) {
     const QLatin1String key(spec.key), until(spec.until);
     if (!QStringView(body).sliced(position).startsWith(key)) {
-      if (spec.presence == Presence::Required) Raise(errors::InvalidProcedureCall, line);
+      if (spec.presence == Presence::Required) Raise(errors::InvalidProcedureCall, Shown(line));
       continue;
     }
     const qsizetype start = position + key.size();
@@ -97,7 +107,7 @@ std::map<QString, QString> TakeValues(const QString& body, const std::vector<Key
     values[KeyName(spec)] = body.mid(start, end - start);
     position = std::min(end + 1, body.size());
   }
-  if (values.empty()) Raise(errors::InvalidProcedureCall, line);
+  if (values.empty()) Raise(errors::InvalidProcedureCall, Shown(line));
   return values;
 }
 
@@ -106,7 +116,7 @@ int TakeIndex(const QString& line) {
   const qsizetype close = line.indexOf(QLatin1Char(')'));
   bool isNumber = false;
   const int index = line.mid(open + 1, close - open - 1).trimmed().toInt(&isNumber);
-  if (open < 0 || close < open || !isNumber) Raise(errors::TypeMismatch, line);
+  if (open < 0 || close < open || !isNumber) Raise(errors::TypeMismatch, Shown(line));
   return index;
 }
 
@@ -137,17 +147,31 @@ bool PropertyLine::Flag(const char* key) const {
   const QString text = Text(key).trimmed();
   if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0) return true;
   if (text.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0) return false;
-  Raise(errors::TypeMismatch, QString::fromLatin1(key) + QLatin1Char('=') + text);
+  Raise(errors::TypeMismatch, QString::fromLatin1(key) + QLatin1Char('=') + Shown(text));
 }
 
 float PropertyLine::Single(const char* key) const {
+  if (!IsNumeric(Text(key)))
+    Raise(errors::TypeMismatch, QString::fromLatin1(key) + QLatin1Char('=') + Shown(Text(key)));
   return ToSingle(Text(key));
+}
+
+float PropertyLine::Place(const char* key) const {
+  const float place = Single(key);
+  if (std::abs(place) > FarthestPlace) Raise(errors::Overflow, QString::fromLatin1(key));
+  return place;
+}
+
+float PropertyLine::FontSize() const {
+  const float size = Single("FontSize");
+  if (size <= 0 || size > LargestFont) Raise(errors::InvalidProcedureCall, QStringLiteral("FontSize"));
+  return size;
 }
 
 int PropertyLine::Integer(const char* key) const {
   bool isNumber = false;
   const int value = Text(key).trimmed().toInt(&isNumber);
-  if (!isNumber) Raise(errors::TypeMismatch, QString::fromLatin1(key) + QLatin1Char('=') + Text(key));
+  if (!isNumber) Raise(errors::TypeMismatch, QString::fromLatin1(key) + QLatin1Char('=') + Shown(Text(key)));
   return value;
 }
 
@@ -158,6 +182,7 @@ PropertyLine ParseLine(const QString& line) {
   if (!userFont && !line.startsWith(QLatin1String("frm"))) return parsed;
   const WordSpec* word = FindWord(userFont ? QStringView(line).left(3) : QStringView(line).mid(6, 3));
   if (!word) return parsed;
+  if (line.size() > LongestLine) Raise(errors::Overflow, Shown(line));
   parsed.word = word->word;
   if (word->indexed) parsed.index = TakeIndex(line);
   const qsizetype body = word->indexed ? line.indexOf(QLatin1Char(')')) + 1 : userFont ? 3 : 9;
@@ -221,12 +246,12 @@ QByteArray BytesOfLines(const QStringList& lines) {
 }
 
 void TakeLabelValues(const PropertyLine& line, LabelRecord& record) {
-  record.Left = line.Single("Left");
-  record.Top = line.Single("Top");
+  record.Left = line.Place("Left");
+  record.Top = line.Place("Top");
   record.Caption = line.Text("Caption");
   record.FontName = line.Text("FontName");
   record.FontBold = line.Flag("FontBold");
-  record.FontSize = line.Single("FontSize");
+  record.FontSize = line.FontSize();
   record.ForeColor = line.Integer("ForeColor");
   if (line.Has("FontItalic")) record.FontItalic = line.Flag("FontItalic");
   if (line.Has("FontUnderline")) record.FontUnderline = line.Flag("FontUnderline");

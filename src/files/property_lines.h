@@ -26,6 +26,10 @@ struct PropertyLine {
   /// Throws 5, 6 or 13.
   float Single(const char* key) const;
   int Integer(const char* key) const;
+  /// A place in twips.  Throws 6 for one that no page reaches.
+  float Place(const char* key) const;
+  /// Points.  Throws 5 for a size that no letter has.
+  float FontSize() const;
 };
 
 /// Takes a line apart.  A line of neither kind gives LineWord::None; a malformed one throws 5 or 13.

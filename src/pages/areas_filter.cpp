@@ -83,7 +83,8 @@ bool AcceptsTyping(const Control& control) {
   const Page* page = PageOf(control);
   if (!page || page->window == CopyOfPage6 || control.Locked() || editing.AreasSelected || InPreview())
     return false;
-  return !IsArea(control) || !FixedByFormat(*page, control.Index());
+  // The columns of a fixed row are fixed with it: what is stored of such a row is never read back.
+  return !FixedByFormat(*page, control.Index());
 }
 
 QString PasteInto(const Control& control, const QString& text) {

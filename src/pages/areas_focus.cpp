@@ -75,7 +75,8 @@ void WarnOfUnreadableDate(const Control& area) {
 
 void TakeColumnBox(Page& page, Control& box) {
   if (editing.AreasSelected) return;
-  if (IsEachPrice(box) && IsNumeric(box.Text())) box.SetText(FormatText(box.Text(), patterns::Amount));
+  if (IsEachPrice(box) && IsNumeric(box.Text()) && AcceptsTyping(box))
+    box.SetText(FormatText(box.Text(), patterns::Amount));
   MultiplyRow(page, box.Index(), Product::FromLeaving);
 }
 

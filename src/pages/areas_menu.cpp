@@ -32,7 +32,7 @@ bool MenuKnowsColumns(const Page& page, int area) {
 }
 
 void SetColumnsEntry(const Page& page, int area, State state) {
-  const bool on = state != State::BoxesSelected && MenuKnowsColumns(page, area);
+  const bool on = state != State::BoxesSelected && MenuKnowsColumns(page, area) && !FixedByFormat(page, area);
   Enable("mnuEditTextColumns", on);
   Control* entry = frame().Find(QStringLiteral("mnuEditTextColumns"));
   if (!on || !entry) return;
@@ -77,7 +77,8 @@ void SetEditMenuState() {
   SetColumnsEntry(current, editing.CurrentArea, state);
   SetCharacterEntries(state == State::OnlyTextSelected);
   SetBlockEntries(state);
-  SetAreaEntries(area, state == State::NothingSelected || state == State::EnablePaste);
+  const bool oneArea = state == State::NothingSelected || state == State::EnablePaste;
+  SetAreaEntries(area, oneArea && !FixedByFormat(current, editing.CurrentArea));
 }
 
 }  // namespace quillane

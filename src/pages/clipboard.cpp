@@ -4,7 +4,7 @@
 #include "model/proposal.h"
 #include "model/report.h"
 #include "model/selection.h"
-#include "pages/areas.h"
+#include "pages/area_rules.h"
 #include "pages/row_contents.h"
 #include "pages/selection.h"
 #include "pages/totals.h"
@@ -65,7 +65,9 @@ void RememberPage(const Page& page) {
   for (int area = 0; area <= page.LastText(); ++area) selection.undo.push_back(Remember(page, area));
 }
 
+// A row that the open format fixes stays as it is; it only loses the selection.
 void EmptyArea(Page& page, int area) {
+  if (FixedByFormat(page, area)) return PaintArea(page, area, Look::Rest);
   if (page.IsRow(area)) {
     WriteRow(page, area, EmptyRow);
   } else {
@@ -108,6 +110,13 @@ bool DestinationIsTaken(Page& page) {
   return false;
 }
 
+bool DestinationIsFixed(const Page& page) {
+  for (const AreaRange& range : {selection.PasteDesc, selection.PasteAmt})
+    for (int area = range.first; range.IsSet() && area <= range.last; ++area)
+      if (FixedByFormat(page, area)) return true;
+  return false;
+}
+
 /// The rows that the memory would take from the caret on.  False, after telling, when they are not there.
 bool FindDestination(Page& page) {
   if (!page.IsItemPage() || (page.window == 0 && !page.IsRow(editing.CurrentArea))) {
@@ -131,7 +140,9 @@ bool FindDestination(Page& page) {
   }
   selection.PasteDesc = rows;
   selection.PasteAmt = amounts;
-  return true;
+  if (!DestinationIsFixed(page)) return true;
+  Tell(QStringLiteral("Cannot paste here."));
+  return false;
 }
 
 bool MayOverwrite(Page& page) {

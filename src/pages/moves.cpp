@@ -2,7 +2,7 @@
 #include "model/focus.h"
 #include "model/proposal.h"
 #include "model/selection.h"
-#include "pages/areas.h"
+#include "pages/area_rules.h"
 #include "pages/row_contents.h"
 #include "pages/selection.h"
 #include "ui/desk.h"
@@ -25,14 +25,23 @@ int LeftBehind(const AreaRange& range, Direction direction) {
   return direction == Direction::Down ? range.first : range.last;
 }
 
+bool AnyIsFixed(const Page& page, const AreaRange& range) {
+  for (int area = range.first; range.IsSet() && area <= range.last; ++area)
+    if (FixedByFormat(page, area)) return true;
+  return false;
+}
+
 /// Why the block cannot move; empty when it can.
 QString Refusal(Page& page, Direction direction) {
   const bool down = direction == Direction::Down;
   if (down && selection.BottomRowSelected) return QStringLiteral("Cannot move contents down. Out of space.");
   if (!down && selection.TopRowSelected) return QStringLiteral("Cannot move contents up any higher.");
+  if (AnyIsFixed(page, selection.SelDesc) || (selection.AmountsInClip && AnyIsFixed(page, selection.SelAmt)))
+    return QStringLiteral("Cannot move contents. The open format fixes this text.");
   const auto taken = [&](const AreaRange& range) {
     const int area = Beyond(range, direction);
-    return range.IsSet() && area >= 0 && area <= page.LastText() && !Area(page, area).Text().isEmpty();
+    return range.IsSet() && area >= 0 && area <= page.LastText() &&
+           (!Area(page, area).Text().isEmpty() || FixedByFormat(page, area));
   };
   if (taken(selection.SelDesc) || (selection.AmountsInClip && taken(selection.SelAmt)))
     return down ? QStringLiteral("Cannot move contents down. Text exists in destination.")

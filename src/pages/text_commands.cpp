@@ -2,7 +2,7 @@
 #include "model/focus.h"
 #include "model/proposal.h"
 #include "model/selection.h"
-#include "pages/areas.h"
+#include "pages/area_rules.h"
 #include "pages/row_contents.h"
 #include "pages/selection.h"
 
@@ -34,6 +34,7 @@ QString InCase(const QString& text, LetterCase to) {
 
 void SetWeight(bool bold) {
   Page& page = *editing.CurrentForm;
+  if (FixedByFormat(page, editing.CurrentArea)) return;
   const auto p = static_cast<size_t>(page.pageIndex);
   const auto i = static_cast<size_t>(editing.CurrentArea);
   page.txt.at(i).SetFontBold(bold);

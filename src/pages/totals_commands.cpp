@@ -6,6 +6,7 @@
 #include "model/proposal.h"
 #include "model/report.h"
 #include "model/upcalls.h"
+#include "pages/area_rules.h"
 #include "pages/totals.h"
 #include "platform/numbers.h"
 #include "ui/desk.h"
@@ -30,7 +31,7 @@ void SetExemption(Page& owner, int area, Exemption exemption) {
 
 void ChangeExemptionOfCurrentArea(Exemption exemption) {
   Page* owner = editing.CurrentForm;
-  if (!owner || !owner->IsAmount(editing.CurrentArea)) return;
+  if (!owner || !owner->IsAmount(editing.CurrentArea) || FixedByFormat(*owner, editing.CurrentArea)) return;
   SetExemption(*owner, editing.CurrentArea, exemption);
   SetFocus(owner->txt[static_cast<size_t>(editing.CurrentArea)]);
   MarkTotalsStale();
@@ -83,7 +84,7 @@ void MakeTaxable() {
 
 void MarkClicked(Control& mark) {
   Page* owner = PageOf(mark);
-  if (!owner || !owner->IsAmount(mark.Index())) return;
+  if (!owner || !owner->IsAmount(mark.Index()) || FixedByFormat(*owner, mark.Index())) return;
   SetExemption(*owner, mark.Index(), Exemption::Taxable);
   RecalculateTotals(0);
   MarkTotalsStale();

@@ -141,8 +141,11 @@ void FrameWindow::AfterChange(Control& control, Aspect) {
   if (QWidget* widget = widgets_.value(&control)) Follow(control, *widget);
   if (control.Array() == QLatin1String("cmdPreview"))
     sheet_->SetDrawMode(InPreview() ? DrawMode::Printing : DrawMode::Editing);
-  // The caption is written right after the title's label; one look when all is done serves both.
-  if (control.Array() != QLatin1String("lblEvent") || std::exchange(titleStale_, true)) return;
+  if (control.Array() != QLatin1String("lblEvent")) return;
+  if (windowTitle() != frame().form.caption) setWindowTitle(frame().form.caption);
+  // While a name is typed the caption is written right after the title's label; one look when all is done
+  // serves both.
+  if (std::exchange(titleStale_, true)) return;
   QMetaObject::invokeMethod(
       this, [this] { FollowTitle(); }, Qt::QueuedConnection);
 }

@@ -2,6 +2,7 @@
 // doubled, and property files treated alike.  All of them open; what a save makes of them stays what it is.
 #include <random>
 
+#include "files/format_file.h"
 #include "pages/features.h"
 #include "proposal_fixture.h"
 
@@ -93,6 +94,56 @@ TEST_F(DamagedFiles, OfPropertiesCostTheLookOnly) {
     EXPECT_EQ(TextOf("frmP2.txtQty(2)"), "5");
     SaveTextBoxFeatures();
     EXPECT_EQ(EventFileBytes().left(21780), Sample("Emily Carter.wwf").left(21780));
+  }
+}
+
+TEST_F(DamagedFiles, OfFormatsApplyUpToTheDamage) {
+  upcalls().OpenFormat = OpenFormatFile;
+  struct Case {
+    const char* what;
+    QByteArray damage;
+    const char* report;  ///< the number of the one report; null for none
+    bool goesOn;         ///< what stands behind the damage is applied
+  };
+  const Case cases[] = {
+      {"a page that is none", "frmP9.shp(1).FontBold=True\r\n", nullptr, true},
+      {"words", "Kept for the next planner\r\n\r\n", nullptr, true},
+      {"an area beyond the page", "frmP1.txt(36).Text=Lilies\r\n", "9", false},
+      {"a label beyond the page",
+       "frmP2.lbl(39).Left=1 .Top=1 .Caption=x .FontName=Arial .FontBold=True "
+       ".FontSize=9 .ForeColor=0\r\n",
+       "9", false},
+      {"columns beyond the page", "frmP6.txq(0).QtyBox=True\r\n", "9", false},
+      {"an index that is none", "frmP1.txt().FontBold=True\r\n", "13", false},
+      {"a missing key", "frmP1.lbl(3).Left=1 .Caption=x\r\n", "5", false},
+      {"a caption with a key in it",
+       "frmP1.lbl(3).Left=1 .Top=1 .Caption=a .FontName=b .FontName=Arial "
+       ".FontBold=True .FontSize=9 .ForeColor=0\r\n",
+       nullptr, true},
+      {"a place beyond the world",
+       "frmP1.lbl(3).Left=1e30 .Top=1 .Caption=x .FontName=Arial .FontBold=True "
+       ".FontSize=9 .ForeColor=0\r\n",
+       "6", false},
+      {"a font that is none", "UDP.FontName=Arial .FontSize=0 .FontColor=0 .FontItalic=False\r\n", "5",
+       false},
+      {"a line without an end", "frmP2.txt(5).Text=" + QByteArray(10'000'000, 'x') + "\r\n", "6", false},
+      {"ten megabytes of noise", Noise(10'000'000).replace("frm", "frn").replace("UDP", "UDQ") + "\r\n",
+       nullptr, true}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    Put("Damaged.wft", "frmP2.txt(3).Text=Roses\r\n" + c.damage + "frmP2.txt(4).Text=Tulips\r\n");
+    fileDialog.Folder = prefs.ProposalFolder;
+    fileDialog.SelectedFileName = "Damaged.wft";
+    desk_.said.clear();
+    OpenPickedFormat();
+    ExpectGuardsAreDown();
+    EXPECT_FALSE(ProposalHasChanged());
+    EXPECT_EQ(TextOf("frmP2.txt(3)") + TextOf("frmP2.txt(4)"), c.goesOn ? "RosesTulips" : "Roses");
+    ASSERT_EQ(desk_.said.size(), c.report ? 1 : 0);
+    if (!c.report) continue;
+    EXPECT_TRUE(desk_.LastSaid().contains(QString("ParseFormatFile.\nError Number: %1\n").arg(c.report)))
+        << desk_.LastSaid().left(300).toStdString();
+    EXPECT_LT(desk_.LastSaid().size(), 400);
   }
 }
 

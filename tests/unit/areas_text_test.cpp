@@ -193,6 +193,7 @@ TEST_F(Typing, AnAreaFixedByTheFormatTakesTheFocusAndNothingElse) {
   typist.Type(QStringLiteral("x"));
   typist.Key(keys::F8);
   EXPECT_FALSE(DropTerm(At("frmP2.txt(1)"), QStringLiteral("Tulips")));
+  EXPECT_FALSE(AcceptsTyping(At("frmP2.txtQty(1)"))) << "its columns are fixed with it";
   Start("frmP2.txt(0)", Words(Full - 1));
   typist.Type(QStringLiteral(" "));
   EXPECT_EQ(At("frmP2.txt(1)").Text(), "Fixed") << "nothing is pushed into it";

@@ -159,4 +159,32 @@ TEST_F(Selection, ChangesTheCaseOfCharacters) {
   }
 }
 
+TEST_F(Selection, RowsThatTheFormatFixesStay) {
+  Fill(1, 3, "Fixed", "10.00");
+  Fill(1, 4, "Free", "20.00");
+  format.FormatIsOpen = true;
+  editing.DoNotLockFormat = false;
+  format.FormatTextRec[1][3].HasFormatText = true;
+  Select(1, 3, 4);
+  MoveContents(page(1), Direction::Down);
+  EXPECT_EQ(desk.LastSaid(), "Cannot move contents. The open format fixes this text.");
+  Select(1, 3, 4);
+  CutTextContents(page(1));
+  EXPECT_EQ(TextAt(1, 3) + TextAt(1, 4), "Fixed");
+  EXPECT_EQ(TextAt(1, 38) + TextAt(1, 39), "") << "amounts are never fixed";
+  PutCaret(1, 2);
+  PasteTextContents(page(1));
+  EXPECT_EQ(desk.LastSaid(), "Cannot paste here.");
+  Select(1, 3, 4);
+  DeleteTextContents(page(1));
+  PutCaret(1, 3);
+  MakeBold();
+  EXPECT_EQ(TextAt(1, 3), "Fixed");
+  EXPECT_FALSE(Area(page(1), 3).GetFont().bold);
+  editing.DoNotLockFormat = true;
+  Select(1, 3, 3);
+  DeleteTextContents(page(1));
+  EXPECT_EQ(TextAt(1, 3), "");
+}
+
 }  // namespace
