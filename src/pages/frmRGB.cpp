@@ -111,6 +111,7 @@ ColourWindow::Mixer ColourWindow::AddBar(QGridLayout& grid, int column, const QS
 QGridLayout* ColourWindow::MakeBars() {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(14);
+  grid->setVerticalSpacing(6);
   mixers_ = {
       AddBar(*grid, 0, QStringLiteral("Red"), QStringLiteral("lblR"), QStringLiteral("Red")),
       AddBar(*grid, 1, QStringLiteral("Grn"), QStringLiteral("lblG"), QStringLiteral("Green")),
@@ -138,6 +139,7 @@ QFormLayout* ColourWindow::MakeTexts() {
 
 QVBoxLayout* ColourWindow::MakeSteps() {
   auto* column = new QVBoxLayout;
+  column->setSpacing(6);
   const auto add = [&](const QString& name, const QString& caption, int step) {
     auto* button = Named(new QPushButton(caption), name);
     button->setAutoDefault(false);

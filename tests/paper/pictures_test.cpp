@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "platform/files.h"
+#include "platform/runtime_error.h"
 
 using namespace quillane;
 
@@ -39,6 +40,24 @@ TEST(Pictures, PrintTheInstalledLogoSharpAndAnyOtherAsItIs) {
   EXPECT_EQ(ReadPicture(logo).width, 2400) << "its size is the file's";
   ReplaceFile(logo, installed + '\n');
   EXPECT_TRUE(PrintsAsDots(logo, pdf)) << "another file of the same name";
+}
+
+TEST(Pictures, RefuseWhatOnlyLooksLikeAPicture) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("logo.bmp"));
+  // A bitmap of 100 by 100 pixels whose dots are missing, and one of 20,000 by 10,000.
+  const QByteArray start = QByteArray::fromHex("424D00000000000000003600000028000000"),
+                   end =
+                       QByteArray::fromHex("0100180000000000000000000000000000000000") + QByteArray(8, '\0');
+  for (const char* size : {"6400000064000000", "204E000010270000", ""}) {
+    ReplaceFile(path, *size ? start + QByteArray::fromHex(size) + end : QByteArray());
+    try {
+      ReadPicture(path);
+      ADD_FAILURE() << "it was read: " << size;
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Number(), errors::InvalidPicture);
+    }
+  }
 }
 
 }  // namespace
