@@ -3,6 +3,7 @@
 
 #include <QTemporaryDir>
 
+#include "item_pages.h"
 #include "model/focus.h"
 #include "pages/defaults.h"
 #include "pages/features.h"
@@ -217,13 +218,6 @@ TEST_F(Areas, AFailureInAKeyIsReportedUnderItsPage) {
   prefs.ProgramFolder.clear();
 }
 
-constexpr const char* Entries[] = {
-    "mnuEditTextColumns",   "mnuEditTextBold",     "mnuEditTextNormal",   "mnuEditTextSelLCase",
-    "mnuEditTextSelPCase",  "mnuEditTextSelUCase", "mnuEditTextAddFUT",   "mnuEditTextEditFUT",
-    "mnuEditTextDeleteFUT", "mnuEditTextDelete",   "mnuEditTextUndo",     "mnuEditTextCopy",
-    "mnuEditTextCut",       "mnuEditTextPaste",    "mnuEditTextMoveDown", "mnuEditTextMoveUp",
-    "mnuEditTextTaxExempt", "mnuEditTextTaxable",  "mnuEditTextDeselect"};
-
 struct MenuCase {
   const char* what;
   const char* area;
@@ -232,8 +226,7 @@ struct MenuCase {
 };
 
 TEST_F(Areas, TheTextMenuKnowsWhatCanBeDone) {
-  for (const char* entry : Entries)
-    if (!frame().Find(QString::fromLatin1(entry))) frame().AddMenu(QString::fromLatin1(entry), QString());
+  MakeTextMenu();
   At("frmP2.txt(3)").SetFontBold(true);
   At("frmP2.txt(4)").SetText(QStringLiteral("some words"));
   for (const MenuCase& c :
@@ -254,8 +247,7 @@ TEST_F(Areas, TheTextMenuKnowsWhatCanBeDone) {
     if (c.characters) At(c.area).SetSelection(1, 3);
     SetEditMenuState();
     QString on;
-    for (const char* entry : Entries)
-      on += QLatin1Char(frame()[QString::fromLatin1(entry)].Enabled() ? '1' : '.');
+    for (const QString& entry : TextMenu()) on += QLatin1Char(frame()[entry].Enabled() ? '1' : '.');
     EXPECT_EQ(on, QString::fromLatin1(c.on)) << c.what;
     if (c.characters) {
       EXPECT_EQ(editing.SelectedTextStart, 1);

@@ -7,16 +7,26 @@
 
 namespace quillane::test {
 
+/// The entries of the text menu, in its order.
+inline QStringList TextMenu() {
+  QStringList entries;
+  for (const QString& entry :
+       QStringLiteral(
+           "Columns Bold Normal SelLCase SelPCase SelUCase AddFUT EditFUT DeleteFUT Delete Undo Copy "
+           "Cut Paste MoveDown MoveUp TaxExempt Taxable Deselect")
+           .split(QLatin1Char(' ')))
+    entries.append("mnuEditText" + entry);
+  return entries;
+}
+
+inline void MakeTextMenu() {
+  for (const QString& entry : TextMenu()) frame().AddMenu(entry, QString());
+}
+
 inline void MakeItemPages() {
   ResetState();
   prefs.CurrencySymbol = QStringLiteral("$");
-  for (const char* entry :
-       {"mnuEditTextColumns", "mnuEditTextBold", "mnuEditTextNormal", "mnuEditTextSelLCase",
-        "mnuEditTextSelPCase", "mnuEditTextSelUCase", "mnuEditTextAddFUT", "mnuEditTextEditFUT",
-        "mnuEditTextDeleteFUT", "mnuEditTextDelete", "mnuEditTextUndo", "mnuEditTextCopy", "mnuEditTextCut",
-        "mnuEditTextPaste", "mnuEditTextMoveDown", "mnuEditTextMoveUp", "mnuEditTextTaxExempt",
-        "mnuEditTextTaxable", "mnuEditTextDeselect"})
-    frame().AddMenu(QString::fromLatin1(entry), QString());
+  MakeTextMenu();
   {
     Scoped building(editing.RebuildingPages, true);
     SetUpPages();

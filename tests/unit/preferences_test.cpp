@@ -225,53 +225,6 @@ TEST_F(PreferencesFile, AValueStaysOnItsLineAndInTheCodePage) {
   EXPECT_EQ(prefs.PrefLines.size(), 32);
 }
 
-TEST_F(PreferencesFile, AShareWithItsFolderHoldsTheProposals) {
-  MakeShare("wedding proposals");
-  Replace("Shared Directory:", "Shared Directory:F:\\");
-  GetUserPreferences();
-  EXPECT_TRUE(desk.said.isEmpty());
-  EXPECT_EQ(prefs.ProposalFolder, Path("drives/F/wedding proposals/"));
-  EXPECT_TRUE(FolderExists(prefs.ProposalFolder, "Backup"));
-  EXPECT_EQ(proposal.CurrentFolder, prefs.ProposalFolder);
-}
-
-TEST_F(PreferencesFile, AShareWithoutItsFolderIsAskedAbout) {
-  MakeShare();
-  Put("Wedding Proposals/Event Terms.fut", "event");
-  Put("Wedding Proposals/SalesTax.txt", "7.50 ");
-  Replace("Shared Directory:", "Shared Directory:F:");
-  const QString question =
-      "Could not find the folder \"Wedding Proposals\" on the shared\nnetwork drive. This is the network "
-      "folder where "
-      "all the Proposal\nfiles normally reside. Would you like to create the folder now?";
-  desk.answers.enqueue(Answer::No);
-  GetUserPreferences();
-  EXPECT_EQ(desk.said[0].title, "Wedding Proposals Folder Not Found");
-  EXPECT_EQ(Texts(), QStringList{question});
-  EXPECT_EQ(prefs.ProposalFolder, Path("Wedding Proposals/"));
-
-  desk.answers.enqueue(Answer::Yes);
-  GetUserPreferences();
-  EXPECT_EQ(Texts(), (QStringList{question, question, "Wedding Proposals Folder Successfully Created."}));
-  EXPECT_EQ(prefs.ProposalFolder, Path("drives/F/Wedding Proposals/"));
-  EXPECT_EQ(ListFiles(prefs.ProposalFolder, "*"), (QStringList{"Event Terms.fut", "SaleTax.txt"}));
-  EXPECT_EQ(Get("drives/F/Wedding Proposals/SaleTax.txt"), "7.50 ");
-}
-
-TEST_F(PreferencesFile, AShareThatIsNotThereIsToldAskedAboutAndTheLocalFolderServes) {
-  Replace("Shared Directory:", "Shared Directory:F:\\");
-  GetUserPreferences();
-  ASSERT_EQ(desk.said.size(), 2);
-  EXPECT_TRUE(
-      desk.said[0].text.startsWith("Error encountered during Events Folder check.\nError Number: 76\n"
-                                   "Error Description: Path not found: there is no drive F:"));
-  EXPECT_EQ(desk.said[1].title, "Wedding Proposals Folder Not Found");
-  EXPECT_TRUE(prefs.Read);
-  EXPECT_EQ(prefs.ProposalFolder, Path("Wedding Proposals/"));
-  EXPECT_EQ(proposal.CurrentFolder, prefs.ProposalFolder);
-  EXPECT_EQ(prefs.CompanyName, "Alder Events");
-}
-
 TEST_F(PreferencesFile, AFolderCannotBeMadeOnAShareThatIsNotThere) {
   Replace("Shared Directory:", "Shared Directory:F:\\");
   desk.answers.enqueue(Answer::Yes);
