@@ -46,6 +46,12 @@ class PaperDesk : public QtDesk {
   void Beep() override {}
 };
 
+/// Puts a text into an area as a file does: no handler runs.
+inline void PutText(Control& area, const QString& text) {
+  const Scoped building(editing.RebuildingPages, true);
+  area.SetText(text);
+}
+
 /// A fresh program with default pages and a folder of its own.
 struct FreshPages {
   PaperDesk desk;

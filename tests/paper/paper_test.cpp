@@ -95,10 +95,7 @@ TEST_F(Paper, EndsAmountsAtTheRightEdgeOfTheirColumn) {
                             {5, 2, "82.18", 4500},
                             {6, 5, "9,999.00", 11160}};
   for (const Case& given : cases) {
-    {
-      const Scoped building(editing.RebuildingPages, true);
-      page(given.window).txt[given.area].SetText(QString::fromLatin1(given.text));
-    }
+    PutText(page(given.window).txt[given.area], QString::fromLatin1(given.text));
     const PdfPage sheet = Print(given.window);
     EXPECT_TRUE(HasTextEndingAt(sheet, QString::fromLatin1(given.text), given.right,
                                 page(given.window).txt[given.area].Top()))
@@ -129,10 +126,7 @@ TEST_F(Paper, IsAsWideAsTheStatusBarSays) {
 
 TEST_F(Paper, KeepsEveryCharacterOfTheCodePageAsText) {
   const QString text = QString::fromUtf8("Sofía Marín-Núñez – “€ 5” ½ Œuvre");
-  {
-    const Scoped building(editing.RebuildingPages, true);
-    page(0).txt[2].SetText(text);
-  }
+  PutText(page(0).txt[2], text);
   EXPECT_TRUE(HasTextAt(Print(0), text, page(0).txt[2].Left(), page(0).txt[2].Top()));
 }
 
@@ -141,18 +135,12 @@ TEST_F(Paper, ReplacesTheFileOfTheLastPrintAndKeepsItWhenTheNextFails) {
   Print(1);
   const QString path = fresh.desk.documents.value(0);
   EXPECT_EQ(path, prefs.ProposalFolder + QStringLiteral("Emily Carter - Page 2.pdf"));
-  {
-    const Scoped building(editing.RebuildingPages, true);
-    page(1).txt[0].SetText(QStringLiteral("Later"));
-  }
+  PutText(page(1).txt[0], QStringLiteral("Later"));
   EXPECT_FALSE(FindText(Print(1), QStringLiteral("Later")).empty());
   SetFaultHook([](const char* step, const QString&) {
     return QLatin1String(step) == QLatin1String("write") ? ENOSPC : 0;
   });
-  {
-    const Scoped building(editing.RebuildingPages, true);
-    page(1).txt[0].SetText(QStringLiteral("Lost"));
-  }
+  PutText(page(1).txt[0], QStringLiteral("Lost"));
   EXPECT_FALSE(FindText(Print(1), QStringLiteral("Later")).empty());
   SetFaultHook(nullptr);
   EXPECT_TRUE(fresh.desk.said.value(0).contains(QStringLiteral("PrintTheForm")));

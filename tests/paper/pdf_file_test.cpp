@@ -30,10 +30,7 @@ class PdfFile : public testing::Test {
     page(0).txt[2].SetText(name);
     proposal.CurrentFolder = prefs.ProposalFolder;
   }
-  static void Write(int window, const QString& text) {
-    const Scoped building(editing.RebuildingPages, true);
-    page(window).txt[20].SetText(text);
-  }
+  static void Write(int window, const QString& text) { PutText(page(window).txt[20], text); }
   static QString Path() { return prefs.ProposalFolder + QStringLiteral("Sofía Núñez.pdf"); }
 
   static QString Output(const QString& program, const QStringList& arguments) {
