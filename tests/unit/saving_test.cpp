@@ -13,11 +13,14 @@ class Saving : public test::ProposalTest {
   }
 };
 
-TEST_F(Saving, InheritsNothingFromAProposalThatItReplaces) {
+TEST_F(Saving, ReplacesAnotherProposalOnlyWhenAskedToAndInheritsNothing) {
   Put("Ann Lee.wwf", "an older proposal");
   Put("Ann Lee.wpf", "frmP2.txt(0).FontBold=True\r\n");
   TypeProposal("Ann Lee");
-  Reply({Answer::Yes});
+  Reply({Answer::No, Answer::Yes});
+  EXPECT_FALSE(SaveEventFile());
+  EXPECT_EQ(Get("Ann Lee.wwf"), "an older proposal");
+  EXPECT_FALSE(proposal.SaveCancelled || proposal.FileIsNamed);
   EXPECT_TRUE(SaveEventFile());
   EXPECT_EQ(Get("Ann Lee.wwf").size(), 22000);
   EXPECT_FALSE(Get("Ann Lee.wpf").contains("FontBold=True"));
