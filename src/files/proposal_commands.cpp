@@ -38,11 +38,10 @@ bool RemoveProposalFile(const QString& path) {
 }
 
 void TakeBackup() {
-  proposal.TitleByHand = false;
-  proposal.Title = QStringLiteral("Proposal for ") + proposal.BaseName;
-  UpdateEventNameLabels();
   const QByteArray bytes = ReadWholeFile(proposal.CurrentFolder + proposal.EventFileName);
   ReplaceFile(prefs.ProposalFolder + proposal.EventFileName, bytes);
+  if (!proposal.TitleByHand) proposal.Title = QStringLiteral("Proposal for ") + proposal.BaseName;
+  UpdateEventNameLabels();
   proposal.CurrentFolder = prefs.ProposalFolder;
   frame()["lblDir"].SetCaption(QStringLiteral("Current Folder = ") + proposal.CurrentFolder);
   ShowFootnoteMark(FootnoteFileExists());

@@ -54,15 +54,13 @@ void GetTaxRate() {
 }
 
 void SaveTaxRate() {
-  Guarded("SaveTaxRate", [] {
-    tax.TaxRateText = tax.TaxRateText.left(RateLength).trimmed();
-    ReplaceFile(TaxPath(), ToCodePage(tax.TaxRateText.leftJustified(RateLength)));
-    Tell(QStringLiteral("New Sales Tax Rate is %1 %.").arg(FormatNumber(tax.TaxRate, patterns::Rate)));
-    ShowTaxRate();
-    if (proposal.BalanceDue == 0) return;
-    MarkTotalsStale();
-    Tell(QStringLiteral("Please click Recalculate to update the totals."));
-  });
+  tax.TaxRateText = tax.TaxRateText.left(RateLength).trimmed();
+  ReplaceFile(TaxPath(), ToCodePage(tax.TaxRateText.leftJustified(RateLength)));
+  Tell(QStringLiteral("New Sales Tax Rate is %1 %.").arg(FormatNumber(tax.TaxRate, patterns::Rate)));
+  ShowTaxRate();
+  if (proposal.BalanceDue == 0) return;
+  MarkTotalsStale();
+  Tell(QStringLiteral("Please click Recalculate to update the totals."));
 }
 
 void ReadTextFile(const QString& path) {

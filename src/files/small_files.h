@@ -6,6 +6,7 @@ namespace quillane {
 
 bool SalesTaxFileExists();
 void GetTaxRate();
+/// Writes the rate in use and announces it.  Throws what a file can, and then has announced nothing.
 void SaveTaxRate();
 /// Opens the text file picked in the dialog in the desktop's viewer.
 void ReadTextFile(const QString& path);

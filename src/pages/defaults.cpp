@@ -141,7 +141,8 @@ void ShowRowColumns(Page& page, int row, bool shown) {
   if (shown) {
     area.SetLeft(sheet::ColumnsLeft);
     area.SetWidth(sheet::ColumnsWidth);
-    page.lblAt[i].SetCaption(QStringLiteral("@ ") + prefs.CurrencySymbol);
+    // One row speaks one currency: a symbol chosen since waits for the next proposal.
+    page.lblAt[i].SetCaption(QStringLiteral("@ ") + page.CurrencyLabel(row + page.AmountOffset()).Caption());
     page.lblEach[i].SetCaption(QStringLiteral("ea."));
   } else {
     PlaceRowWithoutColumns(area);

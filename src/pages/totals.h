@@ -45,8 +45,8 @@ void AdminCheckAddition();
 /// "Running Sub-Total = ", the currency symbol and the figure.
 void ShowRunningSubTotal();
 
-/// The rate dialog's rules: what cmdOK makes of the text.  Text that is no number is reported and changes
-/// nothing.
+/// The rate dialog's rules: what cmdOK makes of the text.  Text that is no number, and a rate that cannot be
+/// written, is reported and changes nothing.
 void AcceptTaxRate(const QString& typed);
 
 }  // namespace quillane

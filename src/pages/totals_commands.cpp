@@ -129,11 +129,15 @@ void AdminCheckAddition() {
 
 void AcceptTaxRate(const QString& typed) {
   const QString text = typed.trimmed();
+  const TaxState before = tax;
   Guarded("cmdOK_Click", [&] {
     if (!text.isEmpty() && !IsNumeric(text)) Raise(errors::TypeMismatch, text);
     tax.TaxRateText = FormatText(text, patterns::Rate).left(5).trimmed();
     tax.TaxRate = static_cast<float>(Val(tax.TaxRateText));
-    upcalls().SaveTaxRate();
+    // A rate that is not on disk would tax this proposal and not the next, under a button that shows another.
+    if (Guarded("SaveTaxRate", upcalls().SaveTaxRate)) return;
+    tax.TaxRateText = before.TaxRateText;
+    tax.TaxRate = before.TaxRate;
   });
 }
 

@@ -1,6 +1,8 @@
 #include "files/small_files.h"
 
 #include "model/frame.h"
+#include "model/upcalls.h"
+#include "pages/totals.h"
 #include "program_folder.h"
 
 using namespace quillane;
@@ -84,14 +86,18 @@ TEST_F(SmallFiles, ARateIsStoredInFiveBytes) {
   EXPECT_TRUE(TotalsAreStale());
 }
 
-TEST_F(SmallFiles, ARateThatCannotBeWrittenLeavesTheOldFile) {
+TEST_F(SmallFiles, ARateThatCannotBeWrittenIsNotTheRate) {
   PutRate("7.50 ");
-  tax.TaxRateText = "8.00";
-  tax.TaxRate = 8;
+  GetTaxRate();
+  upcalls().SaveTaxRate = SaveTaxRate;
   SetFaultHook([](const char* step, const QString&) { return qstrcmp(step, "rename") == 0 ? EACCES : 0; });
-  SaveTaxRate();
+  AcceptTaxRate("8");
+  upcalls() = {};
   EXPECT_TRUE(desk.LastSaid().contains("An error occurred in SaveTaxRate.\nError Number: 70"));
   EXPECT_EQ(Rate(), "7.50 ");
+  EXPECT_EQ(tax.TaxRate, 7.5F);
+  EXPECT_EQ(tax.TaxRateText, "7.50");
+  EXPECT_EQ(Button(), "Tax Rate: 7.5%");
 }
 
 TEST_F(SmallFiles, ATextOpensInTheDesktopsViewer) {
