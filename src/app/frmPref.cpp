@@ -63,8 +63,10 @@ std::unique_ptr<QDialog> MakePreferencesWindow(QWidget* parent) {
 
   QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
   QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, [dialog] {
-    if (Guarded("SaveUserPreferences", [dialog] { SavePreferenceBoxes(ReadBoxes(*dialog)); }))
-      dialog->accept();
+    // What could not be saved stays in view, to be tried again or left.
+    Saved saved = Saved::No;
+    Guarded("SaveUserPreferences", [&] { saved = SavePreferenceBoxes(ReadBoxes(*dialog)); });
+    if (saved == Saved::Yes) dialog->accept();
   });
   return window;
 }

@@ -413,7 +413,7 @@ PreferenceBoxes BoxesFromPreferences() {
           .LoadFUT = prefs.LoadFUT};
 }
 
-void SavePreferenceBoxes(const PreferenceBoxes& boxes) {
+Saved SavePreferenceBoxes(const PreferenceBoxes& boxes) {
   SetPrefLine(Setting::AutoCompleteWord, BooleanText(!boxes.ACEnable));
   SetPrefLine(Setting::AutoStartPosition, QString::number(boxes.ACStart ? terms.AutoStart : 0));
   SetPrefLine(Setting::ShowFUT, BooleanText(!boxes.ShowFUT));
@@ -423,9 +423,10 @@ void SavePreferenceBoxes(const PreferenceBoxes& boxes) {
   SetPrefLine(Setting::LoadFUT, BooleanText(boxes.LoadFUT));
   const Saved saved = SaveUserPreferences();
   GetUserPreferences();
-  if (saved == Saved::No) return;
+  if (saved == Saved::No) return saved;
   terms.FileLoaded = boxes.LoadFUT;
   Tell(QStringLiteral("These changes will take effect on your next start."));
+  return saved;
 }
 
 }  // namespace quillane

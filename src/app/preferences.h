@@ -77,6 +77,6 @@ struct PreferenceBoxes {
   bool operator==(const PreferenceBoxes&) const = default;
 };
 PreferenceBoxes BoxesFromPreferences();
-void SavePreferenceBoxes(const PreferenceBoxes& boxes);
+Saved SavePreferenceBoxes(const PreferenceBoxes& boxes);
 
 }  // namespace quillane

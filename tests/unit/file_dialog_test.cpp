@@ -136,7 +136,10 @@ TEST_F(FileCommands, RestoreReplacesTheOriginalOnce) {
   Put("Ann.wwf", "the original");
   Put("Backup/Ann.wwf", QByteArray(22000, ' '));
   ASSERT_TRUE(Open("Ann.wwf", "Backup"));
+  proposal.Title = "Ann's Day";
+  proposal.TitleByHand = true;
   RestoreFromBackupCommand();
+  EXPECT_EQ(proposal.Title, "Ann's Day");
   EXPECT_EQ(proposal.CurrentFolder, prefs.ProposalFolder);
   EXPECT_EQ(frame()["lblDir"].Caption(), "Current Folder = " + prefs.ProposalFolder);
   Put("Ann.wwf", "changed since");
