@@ -7,6 +7,7 @@
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/upcalls.h"
+#include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -70,6 +71,16 @@ bool HasLogo() {
   return false;
 }
 
+/// Settings and formats hold the characters of the code page only; another path would be written as one that
+/// is not there.
+bool PathCanBeKept(const QString& path) {
+  if (FoldToCodePage(path) == path) return true;
+  Tell(QStringLiteral("The path of this logo has characters that the settings cannot hold:\n%1\n"
+                      "Copy the picture to a folder and a name without them and choose it again.")
+           .arg(path));
+  return false;
+}
+
 /// Remembers where the logo stands, for the proposal and for a format that is made of it.
 void TakePlace() {
   const Control& pic = page(0).pic[0];
@@ -108,12 +119,15 @@ void ChooseLogo(const QString& path) {
   format.LogoChanged = true;
   TakePlace();
   ShowPicture(picture);
+  if (!prefs.LogoVisible)
+    Tell(QStringLiteral("The new logo is in its place, but hidden. Choose \"Show Logo\" to see it."));
 }
 
 void SaveLogoAsDefault() {
   if (!HasLogo()) return;
   const Control& pic = page(0).pic[0];
   const QString path = pic.GetPicture().source;
+  if (!PathCanBeKept(path)) return;
   if (format.FormatIsOpen && format.LogoPath.isEmpty()) {
     format.LogoPath = path;
     format.LogoChanged = true;
@@ -134,6 +148,7 @@ void ToggleLogoVisible() {
 
 void ToggleLogoBorder() {
   const bool border = !frame()[QStringLiteral("mnuEditLogoBorder")].Checked();
+  if (border && !HasLogo()) return;
   CheckMenu("mnuEditLogoBorder", border);
   Control& pic = page(0).pic[0];
   if (border && pic.Hidden()) return ToggleLogoVisible();

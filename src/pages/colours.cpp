@@ -4,6 +4,7 @@
 
 #include "model/proposal.h"
 #include "pages/label_props.h"
+#include "pages/labels.h"
 
 namespace quillane {
 
@@ -50,7 +51,8 @@ ColourBars BarsOf(Color color) {
 }
 
 Color ColourToMix() {
-  return labelEdit.LabelColorMode ? labelEdit.LabelColor : proposal.UDP.FontColor;
+  if (!labelEdit.LabelColorMode) return proposal.UDP.FontColor;
+  return labelEdit.LabelColor == NoCommonColour ? colors::Black : labelEdit.LabelColor;
 }
 
 void ApplyMixedColour(Color color) {

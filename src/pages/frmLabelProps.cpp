@@ -17,6 +17,22 @@ namespace quillane {
 
 namespace {
 
+/// What a person should know before typing into the caption; empty for a label of her own words.
+QString RemarkOn(CaptionWords words) {
+  switch (words) {
+    case CaptionWords::Title:
+      return QStringLiteral("This is the title of the proposal. It changes on all pages.");
+    case CaptionWords::SubTitle:
+      return QStringLiteral(
+          "The words before the page number are the subtitle. Change them with "
+          "\"Proposal Page Titles and Subtitles\" in the Edit menu.");
+    case CaptionWords::PageNumber:
+      return QStringLiteral("Pages are counted for you; this line is always up to date.");
+    default:
+      return {};
+  }
+}
+
 class LabelPropsWindow : public QDialog {
  public:
   explicit LabelPropsWindow(QWidget* parent);
@@ -56,7 +72,7 @@ LabelPropsWindow::LabelPropsWindow(QWidget* parent) : QDialog(parent) {
   grid->addWidget(MakeButtons(), 4, 0, 1, 2);
   grid->setColumnStretch(0, 1);
   grid->setRowStretch(3, 1);
-  if (labelEdit.MultipleLabelsSelected) {
+  if (txtCaption_->isReadOnly()) {
     lstFont_->setFocus();
   } else {
     txtCaption_->setFocus();
@@ -67,8 +83,9 @@ LabelPropsWindow::LabelPropsWindow(QWidget* parent) : QDialog(parent) {
 QGridLayout* LabelPropsWindow::MakeCaption() {
   txtCaption_ = Named(new QLineEdit(labelEdit.LabelCaption), QStringLiteral("txtCaption"));
   txtCaption_->setAccessibleName(QStringLiteral("Caption"));
-  if (labelEdit.MultipleLabelsSelected) {
-    txtCaption_->setReadOnly(true);
+  const CaptionWords words = WordsOfCaption();
+  txtCaption_->setReadOnly(words != CaptionWords::Own && words != CaptionWords::Title);
+  if (words == CaptionWords::OfEachLabel) {
     txtCaption_->setPlaceholderText(QStringLiteral("Several labels are selected; each keeps its own words."));
     txtCaption_->clear();
   }
@@ -79,6 +96,12 @@ QGridLayout* LabelPropsWindow::MakeCaption() {
   layout->setHorizontalSpacing(10);
   layout->addWidget(label, 0, 0);
   layout->addWidget(txtCaption_, 0, 1);
+  if (const QString remark = RemarkOn(words); !remark.isEmpty()) {
+    auto* text = PlainLabel(QStringLiteral("lblRemark"), remark);
+    text->setWordWrap(true);
+    txtCaption_->setAccessibleDescription(remark);
+    layout->addWidget(text, 1, 1);
+  }
   return layout;
 }
 

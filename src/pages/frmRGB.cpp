@@ -159,7 +159,7 @@ QDialogButtonBox* ColourWindow::MakeButtons() {
   AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(buttons, &QDialogButtonBox::accepted, this, [this] {
-    Guarded("cmdOK_Click", [this] { ApplyMixedColour(color_); });
+    Guarded("RGB_OK", [this] { ApplyMixedColour(color_); });
     accept();
   });
   return buttons;

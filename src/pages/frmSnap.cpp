@@ -64,6 +64,8 @@ std::unique_ptr<QDialog> MakeSnapWindow(QWidget* parent) {
   auto* form = new QFormLayout;
   form->addRow(QStringLiteral("&Inches:"), box);
   auto* layout = new QVBoxLayout(dialog);
+  constexpr int between = 12;
+  layout->setSpacing(between);
   layout->addLayout(MakeQuickButtons(*dialog, *box));
   layout->addLayout(form);
   layout->addWidget(buttons);

@@ -170,7 +170,7 @@ void TextPropsWindow::Touched() {
 
 void TextPropsWindow::done(int result) {
   if (result == Accepted)
-    Guarded("ApplyUserFont", ApplyUserFont);
+    Guarded("ApplyUserFont", GiveUserFontToPages);
   else
     proposal.UDP = before_;
   QDialog::done(result);

@@ -15,17 +15,27 @@ namespace quillane {
 
 namespace {
 
-/// A box whose text is selected whenever it gets the focus, by a click too.
+/// A box that comes with its text selected, and selects it whenever it gets the focus, by a click too.
 class SelectingBox : public QLineEdit {
  public:
-  using QLineEdit::QLineEdit;
+  explicit SelectingBox(const QString& text) : QLineEdit(text) {
+    // When its window becomes active the toolkit takes the selection of a box without focus away.
+    connect(this, &QLineEdit::selectionChanged, this, [this] {
+      if (!visited_ && !hasSelectedText() && !this->text().isEmpty()) selectAll();
+    });
+    selectAll();
+  }
 
  protected:
   void focusInEvent(QFocusEvent* event) override {
+    visited_ = true;
     QLineEdit::focusInEvent(event);
     // The click goes on to set the caret; the selection comes after it.
     if (event->reason() == Qt::MouseFocusReason) QTimer::singleShot(0, this, &QLineEdit::selectAll);
   }
+
+ private:
+  bool visited_ = false;
 };
 
 /// A label, the box under it, and the button that clears the box.
@@ -75,7 +85,6 @@ std::unique_ptr<QDialog> MakeTitleWindow(QWidget* parent) {
   layout->addLayout(grid);
   layout->addWidget(buttons);
   title->setFocus();
-  title->selectAll();
 
   QObject::connect(byDefault, &QPushButton::clicked, dialog, [subTitle] {
     Guarded("cmdDefault_Click", [subTitle] { MakeSubTitleDefault(subTitle->text()); });

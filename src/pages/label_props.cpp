@@ -70,19 +70,23 @@ bool AnyFlag() {
          labelEdit.ItalicChanged || labelEdit.UnderlineChanged;
 }
 
-/// The title of page 1 is the proposal's: a new caption goes to all pages, centred where the old one was.
+/// The title at the foot of a page is the proposal's: a new caption goes to all pages, centred where the old
+/// one was.
 void TakeTitleFrom(Control& label, const QString& old) {
-  const QString title = label.Caption();
+  const QString title = TitleWithoutCopy(label.Caption());
   label.SetCaption(old);
   KeepCentred(label.Index());
   SaveTitles({title, proposal.SubTitle});
 }
 
+bool IsTitle(int index) {
+  return index == LabelPage().LastLabel();
+}
+
 void StoreOne(int index) {
   Control& label = LabelOf(index);
   const LabelRecord& old = before[static_cast<size_t>(index)];
-  const bool isTitle = LabelPage().window == 0 && index == LabelPage().LastLabel();
-  if (isTitle && label.Caption() != old.Caption) TakeTitleFrom(label, old.Caption);
+  if (IsTitle(index) && label.Caption() != old.Caption) TakeTitleFrom(label, old.Caption);
   labelEdit.CurrentLabelRec = ValuesOf(label);
   StoreLabel(index);
 }
@@ -147,6 +151,14 @@ void SetLabelCaption(const QString& caption) {
   if (labelEdit.MultipleLabelsSelected) return;
   LabelOf(labelEdit.CurrentLabel).SetCaption(caption);
   KeepCentred(labelEdit.CurrentLabel);
+}
+
+CaptionWords WordsOfCaption() {
+  if (labelEdit.MultipleLabelsSelected) return CaptionWords::OfEachLabel;
+  const int index = labelEdit.CurrentLabel;
+  if (IsTitle(index)) return CaptionWords::Title;
+  if (LabelPage().window > 0 && index == 0) return CaptionWords::SubTitle;
+  return index == PageNumberLabel(LabelPage()) ? CaptionWords::PageNumber : CaptionWords::Own;
 }
 
 QString LabelFontLine() {

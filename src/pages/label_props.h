@@ -24,6 +24,11 @@ void SetLabelColor(Color color);
 /// Has no effect on a selection: several labels with one caption are nobody's wish.
 void SetLabelCaption(const QString& caption);
 
+/// Whose words the caption is made of.  The program writes page numbers and what stands before them anew
+/// whenever pages come or go, so that a caption typed there would be lost.
+enum class CaptionWords { Own, OfEachLabel, Title, SubTitle, PageNumber };
+CaptionWords WordsOfCaption();
+
 /// "Font = Arial" and "Label Font Size = 10"; what a selection does not have in common is left out.
 QString LabelFontLine();
 QString LabelSizeLine();

@@ -52,8 +52,8 @@ void OpenProps(const Page& page) {
 
 /// A value that another label does not share is left empty.
 template <class T>
-void KeepCommon(T& common, const T& value) {
-  if (common != value) common = T{};
+void KeepCommon(T& common, const T& value, const T& none = {}) {
+  if (common != value) common = none;
 }
 
 LabelRecord CommonValues(const Page& page) {
@@ -67,7 +67,7 @@ LabelRecord CommonValues(const Page& page) {
     KeepCommon(common.FontName, values.FontName);
     KeepCommon(common.FontSize, values.FontSize);
     KeepCommon(common.FontBold, values.FontBold);
-    KeepCommon(common.ForeColor, values.ForeColor);
+    KeepCommon(common.ForeColor, values.ForeColor, NoCommonColour);
     KeepCommon(common.FontItalic, values.FontItalic);
     KeepCommon(common.FontUnderline, values.FontUnderline);
   }

@@ -44,6 +44,9 @@ int MarkedLabels(const Page& page);
 /// The currency signs are known by their index; no change of a selection touches them.
 bool IsCurrencySign(const Page& page, int label);
 
+/// In place of the ForeColor of labels that differ in it, since 0 is black.
+inline constexpr Color NoCommonColour = -1;
+
 /// The nine values of a label, and the way back.
 LabelRecord ValuesOf(const Control& label);
 void ApplyValues(Control& label, const LabelRecord& values);

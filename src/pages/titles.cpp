@@ -12,6 +12,7 @@ namespace quillane {
 
 namespace {
 
+const QString OurCopy = QStringLiteral(" - Our Copy");
 const QString TitleWithoutName = QStringLiteral("Proposal for (Client's Name)");
 
 LabelRecord& RecordOf(const Page& page, const Control& label) {
@@ -61,7 +62,7 @@ void CopyToRecord(const Page& page, const Control& label) {
 
 QString TitleOn(const Page& page) {
   if (page.window == CopyOfPage6) return proposal.Title + QStringLiteral(" - Client's Copy");
-  return page.window == 5 ? proposal.Title + QStringLiteral(" - Our Copy") : proposal.Title;
+  return page.window == 5 ? proposal.Title + OurCopy : proposal.Title;
 }
 
 /// The record follows its label.  The caption enters it only where the label counts as changed: a stored
@@ -88,6 +89,14 @@ QString TitleByName() {
 
 }  // namespace
 
+int PageNumberLabel(const Page& page) {
+  return page.LastLabel() - (page.IsTotalsPage() ? 1 : 2);
+}
+
+QString TitleWithoutCopy(const QString& caption) {
+  return caption.endsWith(OurCopy) ? caption.chopped(OurCopy.size()) : caption;
+}
+
 void FindHighestPage() {
   for (int window = ItemPages - 1; window >= 0; --window) {
     if (!HasText(page(window))) continue;
@@ -103,7 +112,7 @@ void UpdatePageNumbers(Titles titles) {
     Page& current = page(window);
     const int number = current.IsTotalsPage() ? highest : window + 1;
     const QString name = QStringLiteral("Page %1").arg(number);
-    Control& footer = current.lbl[current.lbl.size() - (current.IsTotalsPage() ? 2 : 3)];
+    Control& footer = current.lbl[static_cast<size_t>(PageNumberLabel(current))];
     footer.SetCaption(name + QStringLiteral(" of %1").arg(highest));
     if (titles == Titles::Reset) CopyToRecord(current, footer);
     if (window == 0) continue;

@@ -2,6 +2,8 @@
 #pragma once
 #include <QString>
 
+#include "model/page.h"
+
 namespace quillane {
 
 /// Works out proposal.HighestPage from the texts; keeps it when no page has any.
@@ -13,6 +15,11 @@ void UpdatePageNumbers(Titles titles = Titles::Keep);
 /// a changed label of frmP1, so that the property file keeps it; a title that only follows the client's name
 /// marks nothing.
 void UpdateEventNameLabels();
+
+/// The label of a page that says "Page 2 of 4".
+int PageNumberLabel(const Page& page);
+/// The title on frmP6 without the words that say whose copy that sheet is.
+QString TitleWithoutCopy(const QString& caption);
 
 /// The boxes of frmTitle.
 struct ProposalTitles {

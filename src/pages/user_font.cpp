@@ -2,6 +2,7 @@
 
 #include "model/proposal.h"
 #include "model/upcalls.h"
+#include "pages/areas.h"
 #include "pages/colours.h"
 #include "pages/defaults.h"
 #include "platform/numbers.h"
@@ -20,6 +21,11 @@ void ApplyUserFont() {
       }
     }
   }
+}
+
+void GiveUserFontToPages() {
+  ApplyUserFont();
+  for (int window = 0; window < ItemPages; ++window) RefreshAreaWarnings(page(window));
 }
 
 bool MakeUserFontDefault() {

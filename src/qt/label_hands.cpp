@@ -51,7 +51,7 @@ void LabelHands::Handle(const PageMouseEvent& event) {
 
 void LabelHands::Press(const PageMouseEvent& event) {
   if (event.button != Qt::LeftButton && event.button != Qt::RightButton) return;
-  held_ = lastHeld_ = event.control;
+  lastHeld_ = held_ = event.control;
   const QPointF at = Inside(*event.control, event.twips);
   const auto x = static_cast<float>(at.x()), y = static_cast<float>(at.y());
   const MouseButton button = event.button == Qt::RightButton ? MouseButton::Right : MouseButton::Left;
@@ -63,13 +63,20 @@ void LabelHands::Press(const PageMouseEvent& event) {
 
 /// The label moves under the pointer, which then has another place inside it: the move is told again until
 /// the label has caught up.
+void LabelHands::BringTo(QPointF twips) {
+  if (!held_) return;
+  for (int i = 0; i < MostSteps; ++i)
+    if (StepTowards(*held_, twips) == DragStep::Rests) return;
+}
+
 void LabelHands::Move(const PageMouseEvent& event) {
   if (event.control != held_) return;
-  for (int i = 0; i < MostSteps; ++i)
-    if (StepTowards(*event.control, event.twips) == DragStep::Rests) return;
+  BringTo(event.twips);
+  if (event.buttons.testFlag(Qt::LeftButton)) pull_.PointerAt(event.twips);
 }
 
 void LabelHands::Release(const PageMouseEvent& event) {
+  pull_.Stop();
   if (std::exchange(held_, nullptr) != event.control) return;
   view_.setCursor(Qt::ArrowCursor);
   if (IsLogo(*event.control)) return pic_MouseUp(*event.control);

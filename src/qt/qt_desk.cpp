@@ -194,7 +194,12 @@ std::unique_ptr<Surface> QtDesk::BeginDocument(const QString& printer, const QSt
 }
 
 QStringList QtDesk::ScreenFonts() const {
-  return QFontDatabase::families();
+  // Where two makers have a font of one name, the toolkit adds the maker's; the font itself is known by its
+  // name alone, in every file.
+  QStringList names = QFontDatabase::families();
+  for (QString& name : names) name = name.section(QStringLiteral(" ["), 0, 0);
+  names.removeDuplicates();
+  return names;
 }
 
 Picture QtDesk::LoadPicture(const QString& path) {

@@ -1,10 +1,8 @@
 #include "qt/rubber_band.h"
 
 #include <QApplication>
-#include <QTimerEvent>
 #include <algorithm>
 
-#include "model/frame.h"
 #include "pages/selection.h"
 #include "pages/totals.h"
 #include "qt/sheet_view.h"
@@ -12,9 +10,6 @@
 namespace quillane {
 
 namespace {
-
-constexpr int PullEvery = 40;      // milliseconds between two steps while the pointer is outside
-constexpr int LongestStep = 1080;  // twips: three rows
 
 Band BandBetween(QPointF a, QPointF b) {
   return {static_cast<float>(std::min(a.x(), b.x())), static_cast<float>(std::min(a.y(), b.y())),
@@ -31,7 +26,11 @@ void ShowBand(Control& shape, const Band& band) {
 
 }  // namespace
 
-RubberBand::RubberBand(SheetView& view) : QObject(&view), view_(view) {}
+RubberBand::RubberBand(SheetView& view)
+    : QObject(&view), view_(view), pull_(view, [this](QPointF twips) {
+        to_ = twips;
+        Stretch();
+      }) {}
 
 void RubberBand::Handle(const PageMouseEvent& event) {
   switch (event.what) {
@@ -40,9 +39,9 @@ void RubberBand::Handle(const PageMouseEvent& event) {
     case PageMouseEvent::What::Move:
       if (!pressed_) return;
       to_ = event.twips;
-      pointer_ = view_.ToPixels(to_);
       Stretch();
-      return FollowPointer();
+      if (dragging_) pull_.PointerAt(to_);
+      return;
     case PageMouseEvent::What::Release:
       return Release(event);
     case PageMouseEvent::What::DoubleClick:
@@ -65,28 +64,12 @@ void RubberBand::Stretch() {
   ShowBand(front.shpSelect[0], BandBetween(from_, to_));
 }
 
-void RubberBand::FollowPointer() {
-  const bool outside = dragging_ && (pointer_.y() < 0 || pointer_.y() >= view_.height());
-  if (!outside) return pull_.stop();
-  if (!pull_.isActive()) pull_.start(PullEvery, this);
-}
-
-void RubberBand::timerEvent(QTimerEvent* event) {
-  if (event->timerId() == pull_.timerId()) Pull();
-}
-
 void RubberBand::Pull() {
-  const int y = pointer_.y();
-  const int beyond = y < 0 ? y : y >= view_.height() ? y - view_.height() + 1 : 0;
-  if (beyond == 0 || !dragging_) return pull_.stop();
-  const int step = std::clamp(static_cast<int>(beyond * view_.TwipsPerPixel()), -LongestStep, LongestStep);
-  if (view_.scrollTo) view_.scrollTo(frame().VScroll1.Value + step);
-  to_ = view_.ToTwips(pointer_);
-  Stretch();
+  if (dragging_) pull_.Step();
 }
 
 void RubberBand::Release(const PageMouseEvent& event) {
-  pull_.stop();
+  pull_.Stop();
   pressed_ = false;
   if (!std::exchange(dragging_, false)) return;
   Control& shape = event.page.shpSelect[0];

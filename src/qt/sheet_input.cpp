@@ -280,10 +280,8 @@ void SheetView::PressArea(Control& area, const QMouseEvent& event) {
 void SheetView::TellPage(PageMouseEvent::What what, const QMouseEvent& event) {
   if (!pageMouse) return;
   const QPointF twips = ToTwips(event.position());
-  Control* under = ControlAt(twips);
-  if (what != PageMouseEvent::What::Press && what != PageMouseEvent::What::DoubleClick) under = pressed_;
   Guarded("Form_MouseDown", [&] {
-    pageMouse({what, CurrentPage(), under, twips, event.button(), event.buttons(), event.modifiers()});
+    pageMouse({what, CurrentPage(), pressed_, twips, event.button(), event.buttons(), event.modifiers()});
   });
   TakeFromControl();
 }
@@ -292,7 +290,7 @@ void SheetView::mousePressEvent(QMouseEvent* event) {
   event->accept();
   if (mode_ == DrawMode::Printing) return;
   editor_->FinishComposing();
-  pressed_ = ControlAt(ToTwips(event->position()));
+  pressed_ = ControlAt(ToTwips(event->position()), event->modifiers());
   if (!pressed_ || pressed_->GetKind() == Kind::Label || pressed_->GetKind() == Kind::Picture)
     TellPage(PageMouseEvent::What::Press, *event);
   else if (pressed_->GetKind() == Kind::TextBox)
@@ -302,7 +300,7 @@ void SheetView::mousePressEvent(QMouseEvent* event) {
 void SheetView::mouseMoveEvent(QMouseEvent* event) {
   if (mode_ == DrawMode::Printing) return;
   if (event->buttons() == Qt::NoButton) {
-    setCursor(ShapeOver(ControlAt(ToTwips(event->position()))));
+    setCursor(ShapeOver(ControlAt(ToTwips(event->position()), event->modifiers())));
     return;
   }
   if (!pressed_ || pressed_->GetKind() == Kind::Label || pressed_->GetKind() == Kind::Picture)
@@ -332,7 +330,7 @@ void SheetView::mouseReleaseEvent(QMouseEvent* event) {
 
 void SheetView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (mode_ == DrawMode::Printing) return;
-  Control* under = ControlAt(ToTwips(event->position()));
+  Control* under = ControlAt(ToTwips(event->position()), event->modifiers());
   pressed_ = under;
   if (!under || under->GetKind() == Kind::Label || under->GetKind() == Kind::Picture)
     return TellPage(PageMouseEvent::What::DoubleClick, *event);

@@ -119,15 +119,25 @@ QRect SheetView::PixelRect(const Control& control) const {
   return QRect(from, QSize(to.x() - from.x(), to.y() - from.y()));
 }
 
-Control* SheetView::ControlAt(QPointF twips) const {
+Control* SheetView::TopmostAt(QPointF twips, bool (*wanted)(Kind kind)) const {
   const auto& controls = CurrentPage().Controls();
   const auto found = std::find_if(controls.rbegin(), controls.rend(), [&](const Control* control) {
-    if (!control->Visible() || control->GetKind() == Kind::Line || control->GetKind() == Kind::Shape)
-      return false;
+    if (!control->Visible() || !wanted(control->GetKind())) return false;
     const Box box = EditingBox(*control);
     return QRectF(double{box.left}, double{box.top}, double{box.width}, double{box.height}).contains(twips);
   });
   return found == controls.rend() ? nullptr : *found;
+}
+
+Control* SheetView::ControlAt(QPointF twips) const {
+  return TopmostAt(twips, [](Kind kind) { return kind != Kind::Line && kind != Kind::Shape; });
+}
+
+Control* SheetView::ControlAt(QPointF twips, Qt::KeyboardModifiers modifiers) const {
+  Control* label = nullptr;
+  if (modifiers.testFlag(Qt::ControlModifier))
+    label = TopmostAt(twips, [](Kind kind) { return kind == Kind::Label || kind == Kind::Picture; });
+  return label ? label : ControlAt(twips);
 }
 
 // The live editor

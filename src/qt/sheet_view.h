@@ -63,6 +63,9 @@ class SheetView : public QWidget, private FormObserver {
   /// The topmost visible control at a place: a text box, a mark, a label or the logo; null for the empty
   /// page.
   Control* ControlAt(QPointF twips) const;
+  /// What the mouse takes hold of at a place: with Ctrl the topmost label or the logo, also one that lies
+  /// under a text box, where nobody could reach it otherwise.
+  Control* ControlAt(QPointF twips, Qt::KeyboardModifiers modifiers) const;
 
   /// The wheel asks for a new value of VScroll1; without it the view scrolls itself.
   std::function<void(int value)> scrollTo;
@@ -101,6 +104,7 @@ class SheetView : public QWidget, private FormObserver {
 
   Page& CurrentPage() const { return page(window_); }
   double SheetLeft() const;
+  Control* TopmostAt(QPointF twips, bool (*wanted)(Kind kind)) const;
   void PaintGround(QPainter& painter, const QRect& stale) const;
   void PaintControls(QPainter& painter, const QRect& stale) const;
   void PaintControl(QPainter& painter, Surface& surface, const Control& control) const;

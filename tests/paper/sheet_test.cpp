@@ -13,6 +13,7 @@
 #include "pages/selection.h"
 #include "paper_desk.h"
 #include "platform/codepage.h"
+#include "qt/label_hands.h"
 #include "qt/rubber_band.h"
 #include "qt/sheet_view.h"
 
@@ -312,6 +313,29 @@ TEST_F(Sheet, SlidesUnderABandThatIsPulledOutOfIt) {
   EXPECT_EQ(page(1).txt[20].BackColor(), colors::Blue);
   EXPECT_FALSE(page(1).shpSelect[0].Visible());
   ClearSelection();
+}
+
+TEST_F(Sheet, HandsOverALabelUnderAnAreaWithCtrlAndSlidesUnderItsDrag) {
+  view.resize(900, 500);
+  view.scrollTo = [this](int value) { view.SetScroll(std::clamp(value, 0, 9000)); };
+  LabelHands hands(view);
+  view.pageMouse = [&](const PageMouseEvent& event) { hands.Handle(event); };
+  Control& label = page(1).lbl[38];
+  label.SetLeft(page(1).txt[5].Left() + 100);
+  label.SetTop(page(1).txt[5].Top());
+  const QPoint on = view.ToPixels({double{label.Left()} + 60, double{label.Top()} + 60});
+  const float top = label.Top();
+  QTest::mouseClick(&view, Qt::LeftButton, {}, on);
+  EXPECT_EQ(Focus(), "frmP2.txt(5)") << "the area is still clicked";
+  QTest::mousePress(&view, Qt::LeftButton, Qt::ControlModifier, on);
+  const QPoint under(on.x(), view.height() + 40);
+  QMouseEvent drag(QEvent::MouseMove, under, view.mapToGlobal(under), Qt::NoButton, Qt::LeftButton, {});
+  QApplication::sendEvent(&view, &drag);
+  EXPECT_GT(label.Top(), top);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return view.Scroll() > 0; })) << "the sheet follows";
+  QTest::mouseRelease(&view, Qt::LeftButton, {}, under);
+  EXPECT_EQ(Focus(), "frmP2.txt(5)");
+  EXPECT_TRUE(proposal.LabelRec[1][38].Changed);
 }
 
 TEST_F(Sheet, NamesItsAreasForAScreenReader) {

@@ -138,4 +138,29 @@ TEST_F(LabelProps, MakeATitleOfTheTitlesCaption) {
   EXPECT_NEAR(title.Left() + title.Width() / 2, sheet::Centre, 1);
 }
 
+TEST_F(LabelProps, MakeATitleOfAnyPagesTitle) {
+  Begin(5, 64);
+  EXPECT_EQ(WordsOfCaption(), CaptionWords::Title);
+  SetLabelCaption("Carter and Okafor - Our Copy");
+  UnloadLabelProps();
+  EXPECT_EQ(proposal.Title, "Carter and Okafor");
+  EXPECT_EQ(At("frmP1.lbl(45)").Caption(), "Carter and Okafor");
+  EXPECT_EQ(At("frmP6.lbl(64)").Caption(), "Carter and Okafor - Our Copy");
+  EXPECT_EQ(At("frmP6_1.lbl(64)").Caption(), "Carter and Okafor - Client's Copy");
+}
+
+TEST_F(LabelProps, KnowTheCaptionsThatTheProgramWrites) {
+  struct Case {
+    int window, label;
+    CaptionWords words;
+  };
+  for (const Case& c : {Case{0, 0, CaptionWords::Own}, Case{0, 43, CaptionWords::PageNumber},
+                        Case{2, 0, CaptionWords::SubTitle}, Case{2, 36, CaptionWords::PageNumber},
+                        Case{2, 37, CaptionWords::Own}, Case{5, 0, CaptionWords::SubTitle},
+                        Case{5, 62, CaptionWords::Own}, Case{5, 63, CaptionWords::PageNumber}}) {
+    Begin(c.window, c.label);
+    EXPECT_EQ(WordsOfCaption(), c.words) << c.window << " " << c.label;
+  }
+}
+
 }  // namespace

@@ -186,6 +186,10 @@ TEST_F(Labels, ASelectionShowsWhatItsLabelsHaveInCommon) {
   EXPECT_EQ(common.FontSize, 0);
   EXPECT_TRUE(common.FontBold && common.FontUnderline);
   EXPECT_EQ(common.ForeColor, colors::Red);
+  desk_.shown.clear();
+  Label(0, 44).SetForeColor(colors::Blue);
+  SelectAllLabels();
+  EXPECT_EQ(labelEdit.CurrentLabelRec.ForeColor, NoCommonColour) << "black is a colour";
 }
 
 TEST_F(Labels, ThePropertiesAreThoseOfTheLabelLastPressedOnThisPage) {

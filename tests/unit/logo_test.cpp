@@ -90,6 +90,8 @@ TEST_F(LogoTest, ShowsAsTheSettingAndTheMenuSay) {
 }
 
 TEST_F(LogoTest, WithABorderShowsAgain) {
+  ToggleLogoBorder();
+  EXPECT_FALSE(Checked("mnuEditLogoBorder")) << "there is none to border";
   ChooseLogo("ours.jpg");
   ToggleLogoVisible();
   ToggleLogoBorder();
@@ -119,6 +121,22 @@ TEST_F(LogoTest, IsKeptAsDefaultWithItsPlace) {
   SaveLogoAsDefault();
   EXPECT_EQ(format.LogoPath, "theirs.jpg") << "a format keeps a logo of its own";
   EXPECT_FALSE(format.LogoChanged);
+}
+
+TEST_F(LogoTest, IsNotKeptUnderANameThatTheSettingsCannotHold) {
+  const QString path = QString::fromUtf8("/home/\xC5\x81ucja/logo.jpg");
+  ChooseLogo(path);
+  SaveLogoAsDefault();
+  EXPECT_TRUE(stored.empty());
+  EXPECT_TRUE(desk_.LastSaid().contains(path));
+  EXPECT_EQ(Pic().GetPicture().source, path) << "this proposal has it";
+}
+
+TEST_F(LogoTest, SaysSoWhenTheOneThatWasChosenIsHidden) {
+  prefs.LogoVisible = false;
+  ChooseLogo("ours.jpg");
+  EXPECT_FALSE(Pic().Visible());
+  EXPECT_TRUE(desk_.LastSaid().contains("Show Logo"));
 }
 
 }  // namespace

@@ -34,8 +34,18 @@ TEST_F(UserFontTest, ReachesEveryAreaAndLeavesBoldAndBlueAlone) {
   EXPECT_EQ(At("frmP3.txt(4)").ForeColor(), colors::White);
   EXPECT_FALSE(editing.ApplyingFonts);
   EXPECT_TRUE(PropertiesHaveChanged()) << "the font belongs to the property file";
-  EXPECT_TRUE(PropertyLinesNow().contains(
-      "UDP.FontName=No Such Font .FontSize=8 .FontColor=255 .FontItalic=True"));
+  EXPECT_TRUE(
+      PropertyLinesNow().contains("UDP.FontName=No Such Font .FontSize=8 .FontColor=255 .FontItalic=True"));
+}
+
+TEST_F(UserFontTest, ShowsAtOnceWhatHasBecomeTooWide) {
+  Control& area = At("frmP4.txt(3)");
+  area.SetText(QString(100, 'm'));
+  for (const auto& [size, colour] : {std::pair{6.0F, colors::Grey}, std::pair{24.0F, colors::Red}}) {
+    proposal.UDP.FontSize = size;
+    GiveUserFontToPages();
+    EXPECT_EQ(area.BackColor(), colour) << size;
+  }
 }
 
 }  // namespace
