@@ -70,15 +70,13 @@ TEST_F(FileDialogRules, DeleteModeListsEveryFileAndStaysOpen) {
 
 TEST_F(FileDialogRules, KindsThatAreNotReadYetAreToldAndChangeNothing) {
   Type("frmP2.txt(0)", "Flowers");
-  for (const char* filter : {"*.fut", "*.jpg;*.bmp;*.gif"}) {
-    fileDialog.FileFilter = filter;
-    FileDialog dialog = Loaded();
-    EXPECT_FALSE(dialog.propertiesOffered);
-    dialog.ChooseFile("any");
-    dialog.Open();
-    EXPECT_TRUE(desk_.LastSaid().endsWith("in this version.")) << filter;
-    EXPECT_TRUE(dialog.closed);
-  }
+  fileDialog.FileFilter = "*.fut";
+  FileDialog dialog = Loaded();
+  EXPECT_FALSE(dialog.propertiesOffered);
+  dialog.ChooseFile("any");
+  dialog.Open();
+  EXPECT_TRUE(desk_.LastSaid().endsWith("in this version."));
+  EXPECT_TRUE(dialog.closed);
   EXPECT_EQ(TextOf("frmP2.txt(0)"), "Flowers");
 }
 
