@@ -40,7 +40,8 @@ bool PropertiesAreDue(Properties when, const QString& baseName) {
   return format.FormatIsOpen || FileExists(PropertyFolder(), baseName + PropertyFile);
 }
 
-void WriteFiles(const QString& fileName, Properties when) {
+// False when the property file was due and could not be written; the proposal is not saved then.
+bool WriteFiles(const QString& fileName, Properties when) {
   const QString baseName = fileName.chopped(FieldFile.size());
   SaveTextBoxFeatures();
   FindHighestPage();
@@ -49,7 +50,7 @@ void WriteFiles(const QString& fileName, Properties when) {
   const bool propertiesToo = PropertiesAreDue(when, baseName);
   ReplaceFile(proposal.CurrentFolder + fileName, EventFileBytes());
   proposal.PropertyLines = PropertyLinesNow();
-  if (propertiesToo) SavePropertyFile(baseName);
+  return !propertiesToo || SavePropertyFile(baseName);
 }
 
 void TakeName(const QString& baseName) {
@@ -87,7 +88,7 @@ bool SaveUnderItsName() {
     return false;
   }
   if (!MayReplaceDuplicate()) return false;
-  WriteFiles(proposal.EventFileName, Properties::WhenChanged);
+  if (!WriteFiles(proposal.EventFileName, Properties::WhenChanged)) return false;
   MarkSaved();
   return true;
 }
@@ -116,11 +117,13 @@ bool SaveUnderNewName(const QString& baseName) {
   const QString oldFootnotes = proposal.FootnoteFileName;
   const bool hadFootnotes = FootnoteFileExists();
   const bool hasDeposits = FileExists(proposal.CurrentFolder, baseName + DepositFile);
-  const bool saved = Guarded("SaveEventFile", [&] {
+  bool saved = false;
+  Guarded("SaveEventFile", [&] {
     CheckTheTotals();
-    WriteFiles(baseName + FieldFile, Properties::Always);
+    if (!WriteFiles(baseName + FieldFile, Properties::Always)) return;
     TakeName(baseName);
     MarkSaved();
+    saved = true;
   });
   if (!saved) return false;
   proposal.DepositFileName = baseName + DepositFile;

@@ -58,13 +58,6 @@ void OpenFormatUnlessRefused() {
   OpenPickedFormat();
 }
 
-// Kinds of files whose readers are not part of this version.
-QString NotYet(const QString& filter) {
-  return filter == QLatin1String("*.wft")
-             ? QStringLiteral("Format files cannot be opened in this version.")
-             : QStringLiteral("Frequent terms cannot be opened in this version.");
-}
-
 }  // namespace
 
 void ShowFileDialog(const QString& filter, const QString& caption) {
@@ -200,7 +193,7 @@ void FileDialog::OpenPicked() {
   else if (filter == LogoFilter)
     ChooseLogo(folder + openFileName);
   else
-    Tell(NotYet(filter));
+    Tell(QStringLiteral("Frequent terms cannot be opened in this version."));
 }
 
 void FileDialog::Cancel() {

@@ -7,6 +7,7 @@
 #include "model/frame.h"
 #include "model/report.h"
 #include "model/upcalls.h"
+#include "pages/changes.h"
 #include "pages/features.h"
 #include "pages/labels.h"
 #include "pages/totals.h"
@@ -119,10 +120,15 @@ void ShowFormatName() {
   event.SetVisible(true);
 }
 
-// What the format's file now holds needs no question any more.  A proposal with a file of its own, and the
-// amounts, are not in the format and stay unsaved.
-void MarkHeldBySavedFormat() {
-  if (proposal.FileIsNamed) return;
+// What the format's file now holds needs no question any more.  The changes of a proposal with a file of its
+// own, and the amounts, are not in the format and stay unsaved; where there were none, the marks that were
+// set for this save make none.
+enum class Work { Saved, Unsaved };
+void MarkHeldBySavedFormat(Work work) {
+  if (proposal.FileIsNamed) {
+    if (work == Work::Saved) AssignPropChanges();
+    return;
+  }
   for (int p = 0; p < ItemPages; ++p)
     for (int i = 0; i < AreaCount(p); ++i) {
       if (IsNumericArea(page(p).txt[static_cast<size_t>(i)])) continue;
@@ -139,15 +145,17 @@ bool StoreAsDefault() {
 }
 
 bool SaveUnder(const QString& name) {
+  const bool unsavedWork = ProposalHasChanged();
   SaveTextBoxFeatures();
   if (!FormatChanged()) return false;
+  // The marks and lines follow the file: what could not be written still counts as unsaved.
+  ReplaceFile(format.FormatFolder + name + Extension, BytesOfLines(FormatLinesNow()));
   AssignFormatPropChanges();
   CopyLabelsToRecords();
-  ReplaceFile(format.FormatFolder + name + Extension, BytesOfLines(format.FormatLines));
   format.FormatName = name + Extension;
   const bool stored = !format.FormatAsDefault || StoreAsDefault();
   format.FormatIsOpen = true;
-  MarkHeldBySavedFormat();
+  MarkHeldBySavedFormat(unsavedWork ? Work::Unsaved : Work::Saved);
   ShowFormatName();
   return stored;
 }

@@ -137,11 +137,13 @@ QString PropertyFolder() {
                                                                        : proposal.CurrentFolder;
 }
 
-void SavePropertyFile(const QString& baseName) {
-  ReplaceFile(PropertyFolder() + baseName + QStringLiteral(".wpf"), BytesOfLines(proposal.PropertyLines));
-  proposal.SavedPropertyLines = proposal.PropertyLines;
-  for (auto& labels : proposal.LabelBackup)
-    for (LabelRecord& label : labels) label.Changed = false;
+bool SavePropertyFile(const QString& baseName) {
+  return Guarded("SavePropertyFile", [&] {
+    ReplaceFile(PropertyFolder() + baseName + QStringLiteral(".wpf"), BytesOfLines(proposal.PropertyLines));
+    proposal.SavedPropertyLines = proposal.PropertyLines;
+    for (auto& labels : proposal.LabelBackup)
+      for (LabelRecord& label : labels) label.Changed = false;
+  });
 }
 
 void ReadFileProperties() {

@@ -11,8 +11,9 @@ namespace quillane {
 void AssignPropChanges();
 /// The lines that a save would write, read from the pages as they stand, without touching a mark.
 QStringList PropertyLinesNow();
-/// Writes proposal.PropertyLines to `baseName` + ".wpf".  Throws what ReplaceFile throws.
-void SavePropertyFile(const QString& baseName);
+/// Writes proposal.PropertyLines to `baseName` + ".wpf".  False, after the report, when it could not be
+/// written.
+bool SavePropertyFile(const QString& baseName);
 /// Where property files are written and read: the folder of the open file, but the proposal folder for a
 /// proposal that came from the backup folder, which holds field files only.
 QString PropertyFolder();

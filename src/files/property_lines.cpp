@@ -35,7 +35,7 @@ const std::vector<WordSpec>& Words() {
       {"txt",
        LineWord::Text,
        true,
-       {{".FontBold=", "", Presence::Optional},
+       {{".FontBold=", " ", Presence::Optional},
         {".Text=", "", Presence::Optional},
         {".TaxExempt=", "", Presence::Optional}}},
       {"txq",

@@ -88,7 +88,7 @@ TEST_F(FailingDisk, KeepsTheMarksWhileThePropertiesAreNotWritten) {
   const QByteArray properties = Get("Emily Carter.wpf");
   Break("sync", ".wpf", ENOSPC);
   EXPECT_FALSE(SaveEventFile());
-  ExpectReport("SaveEventFile");
+  ExpectReport("SavePropertyFile");
   EXPECT_EQ(Get("Emily Carter.wpf"), properties);
   ExpectWorkIsKept();
   SetFaultHook(nullptr);

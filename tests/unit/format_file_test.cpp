@@ -133,6 +133,7 @@ TEST_F(Formats, AskForANameThatMayBeWritten) {
   EXPECT_TRUE(desk_.LastSaid().contains("An error occurred in SaveFileFormat.\nError Number: 61"));
   EXPECT_EQ(Get("Taken.wft"), old);
   EXPECT_EQ(format.FormatName, "Spring.wft");
+  EXPECT_NE(FormatLinesNow(), format.FormatLines) << "what was not written is still asked about";
 }
 
 TEST_F(Formats, ABlankPageIsNotWrittenAndNoDefault) {
@@ -217,6 +218,17 @@ TEST_F(Formats, AProposalTakesTheirPlaceExceptWhereTheyAreLocked) {
     EXPECT_EQ(proposal.PageText[1][0], TextOf("frmP2.txt(0)"));
     EXPECT_FALSE(ProposalHasChanged());
   }
+}
+
+TEST_F(Formats, SavingOneLeavesTheOpenProposalAsItWas) {
+  Put("Emily Carter.wwf", Sample("Emily Carter.wwf"));
+  ASSERT_TRUE(Open("Emily Carter.wwf"));
+  SaveAs("Made of Emily");
+  ASSERT_TRUE(Exists("Made of Emily.wft"));
+  EXPECT_FALSE(ProposalHasChanged());
+  Type("frmP2.txt(4)", "Lilies");
+  SaveAs("With lilies");
+  EXPECT_TRUE(ProposalHasChanged()) << "the proposal's own file lacks the lilies";
 }
 
 TEST_F(Formats, TheTitlesWordsAreTheProposals) {
