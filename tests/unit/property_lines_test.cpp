@@ -59,6 +59,17 @@ TEST(PropertyLines, ThatAreMalformedThrow) {
   EXPECT_THROW(static_cast<void>(wrong.Integer("FontColor")), RuntimeError);
   EXPECT_THROW(static_cast<void>(wrong.Flag("FontItalic")), RuntimeError);
   EXPECT_THROW(static_cast<void>(wrong.Text("FontBold")), RuntimeError);
+
+  for (const char* absurd : {".Left=-200000 .Top=0", ".Left=0 .Top=200000"}) {
+    const QString line = QStringLiteral("frmP1.pic.Picture=a.jpg ") + QLatin1String(absurd);
+    EXPECT_THROW((ParseLine(line).Place("Left"), ParseLine(line).Place("Top")), RuntimeError) << absurd;
+  }
+  for (const char* absurd : {"0", "-9", "5000"})
+    EXPECT_THROW(static_cast<void>(ParseLine(QStringLiteral("UDP.FontName=Arial .FontSize=") +
+                                             QLatin1String(absurd) + " .FontColor=0 .FontItalic=False")
+                                       .FontSize()),
+                 RuntimeError)
+        << absurd;
 }
 
 TEST(PropertyLines, ReadBackWhatWasWritten) {
@@ -69,7 +80,7 @@ TEST(PropertyLines, ReadBackWhatWasWritten) {
   record.FontName = "Times New Roman";
   record.FontSize = 9.75F;
   record.ForeColor = 0x00FF80;
-  record.FontBold = record.FontUnderline = true;
+  record.FontBold = record.FontItalic = record.FontUnderline = true;
   LabelRecord read;
   TakeLabelValues(ParseLine(LabelLine(3, 38, record)), read);
   EXPECT_EQ(read, record);
