@@ -148,13 +148,14 @@ TEST_F(Formats, TheDefaultBeginsEachNewProposalUntilItIsSetAside) {
   Input("Autumn");
   DefaultFormatCommand();
   EXPECT_EQ(prefs.DefaultFileFormat, PathOf("Autumn.wft"));
-  PutFormat("Other.wft", {"frmP3.txt(1).Text=Chairs"});
+  PutFormat("Other.wft", {"frmP3.txt(1).Text=Chairs", "frmP9.txt(2).Text=Tables"});
   Type("frmP2.txt(4)", "Not in the file");
   StartNewFile();
   EXPECT_EQ(TextOf("frmP2.txt(3)") + TextOf("frmP2.txt(4)"), "Roses");
 
   Pick("Other.wft");
   EXPECT_EQ(TextOf("frmP2.txt(3)") + TextOf("frmP3.txt(1)"), "Chairs");
+  EXPECT_EQ(TextOf("frmP3.txt(2)"), "Tables") << "a page that is none leaves the last one";
   StartNewFile();
   EXPECT_EQ(TextOf("frmP3.txt(1)"), "Chairs") << "a format outlives the proposals that are written on it";
   ClearFormatCommand();
