@@ -119,6 +119,12 @@ Handled AreaKeyDown(Page& page, Control& area, const KeyEvent& event) {
   return Handled::Yes;
 }
 
+// A prompt goes as a whole when a figure is typed; a piece of it would be printed.
+bool NibblesAtPrompt(const Control& box, const KeyEvent& event) {
+  const bool cuts = event.ctrl && !event.alt && event.key == 'X';
+  return ShowsPrompt(box) && (cuts || event.key == keys::Delete || event.key == keys::Backspace);
+}
+
 void MoveInColumn(Page& page, Control* target, int scrollKey) {
   if (target) MoveTo(page, target, scrollKey);
 }
@@ -134,7 +140,7 @@ Handled ColumnBoxKeyDown(Page& page, Control& box, const KeyEvent& event) {
     MoveInColumn(page, ControlBelow(page, box), keys::PageDown);
   } else if (event.key == keys::Up) {
     MoveInColumn(page, ControlAbove(page, box), keys::PageUp);
-  } else if (Writes(event) && !AcceptsTyping(box)) {
+  } else if (NibblesAtPrompt(box, event) || (Writes(event) && !AcceptsTyping(box))) {
     return Handled::Yes;
   } else {
     return IsPaste(event) ? PasteByKey(box) : Handled::No;
