@@ -75,8 +75,10 @@ bool HasLogo() {
 /// is not there.
 bool PathCanBeKept(const QString& path) {
   if (FoldToCodePage(path) == path) return true;
-  Tell(QStringLiteral("The path of this logo has characters that the settings cannot hold:\n%1\n"
-                      "Copy the picture to a folder and a name without them and choose it again.")
+  Tell(QStringLiteral(
+           "The path of this logo has characters that neither the settings nor a format can hold:\n"
+           "%1\n"
+           "This proposal shows it. To keep it, copy the picture to a folder and a name without them.")
            .arg(path));
   return false;
 }
@@ -115,10 +117,13 @@ void ChooseLogo(const QString& path) {
     pic.SetLeft(prefs.LogoLeft);
     pic.SetTop(prefs.LogoTop);
   }
-  proposal.LogoPath = format.LogoPath = path;
-  format.LogoChanged = true;
+  proposal.LogoPath = path;
   TakePlace();
   ShowPicture(picture);
+  if (PathCanBeKept(path)) {
+    format.LogoPath = path;
+    format.LogoChanged = true;
+  }
   if (!prefs.LogoVisible)
     Tell(QStringLiteral("The new logo is in its place, but hidden. Choose \"Show Logo\" to see it."));
 }

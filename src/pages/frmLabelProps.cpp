@@ -33,6 +33,13 @@ QString RemarkOn(CaptionWords words) {
   }
 }
 
+/// On the window's ground, so that nobody tries to type there.
+void LookReadOnly(QLineEdit& box) {
+  QPalette colours = box.palette();
+  colours.setColor(QPalette::Base, colours.color(QPalette::Window));
+  box.setPalette(colours);
+}
+
 class LabelPropsWindow : public QDialog {
  public:
   explicit LabelPropsWindow(QWidget* parent);
@@ -85,6 +92,7 @@ QGridLayout* LabelPropsWindow::MakeCaption() {
   txtCaption_->setAccessibleName(QStringLiteral("Caption"));
   const CaptionWords words = WordsOfCaption();
   txtCaption_->setReadOnly(words != CaptionWords::Own && words != CaptionWords::Title);
+  if (txtCaption_->isReadOnly()) LookReadOnly(*txtCaption_);
   if (words == CaptionWords::OfEachLabel) {
     txtCaption_->setPlaceholderText(QStringLiteral("Several labels are selected; each keeps its own words."));
     txtCaption_->clear();

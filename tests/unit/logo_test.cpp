@@ -126,9 +126,12 @@ TEST_F(LogoTest, IsKeptAsDefaultWithItsPlace) {
 TEST_F(LogoTest, IsNotKeptUnderANameThatTheSettingsCannotHold) {
   const QString path = QString::fromUtf8("/home/\xC5\x81ucja/logo.jpg");
   ChooseLogo(path);
-  SaveLogoAsDefault();
-  EXPECT_TRUE(stored.empty());
   EXPECT_TRUE(desk_.LastSaid().contains(path));
+  EXPECT_FALSE(format.LogoChanged);
+  desk_.said.clear();
+  SaveLogoAsDefault();
+  EXPECT_TRUE(desk_.LastSaid().contains(path));
+  EXPECT_TRUE(stored.empty());
   EXPECT_EQ(Pic().GetPicture().source, path) << "this proposal has it";
 }
 
