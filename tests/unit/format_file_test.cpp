@@ -191,6 +191,25 @@ TEST_F(Formats, AreDeletedOnlyAfterTheProposalAndTheQuestion) {
   EXPECT_EQ(TextOf("frmP2.txt(3)") + TextOf("frmP2.txt(4)"), "");
 }
 
+TEST_F(Formats, ARefusalToLeaveHoldsThoughTheDialogOpens) {
+  PutFormat("Autumn.wft", {"frmP2.txt(3).Text=Roses"});
+  Type("frmP2.txt(4)", "Lilies");
+  Reply({Answer::Cancel});
+  OpenFormatCommand();
+  EXPECT_EQ(desk_.shown, QStringList{"frmFile"});
+  Reply({Answer::Cancel});
+  Pick("Autumn.wft");
+  EXPECT_EQ(TextOf("frmP2.txt(3)") + TextOf("frmP2.txt(4)"), "Lilies") << "asked again, and refused again";
+  EXPECT_FALSE(format.FormatIsOpen);
+
+  // The mark stops one more command, even where the question itself would let it go on.
+  for (const char* left : {"Lilies", ""}) {
+    Reply({Answer::No});
+    NewEventCommand();
+    EXPECT_EQ(TextOf("frmP2.txt(4)"), left);
+  }
+}
+
 TEST_F(Formats, ClearingAsksOnlyForWorkThatIsNotSaved) {
   ClearFormatCommand();
   EXPECT_EQ(Said(), QStringList());
