@@ -21,14 +21,16 @@ QPointF Inside(const Control& control, QPointF twips) {
   return twips - QPointF(double{control.Left()}, double{control.Top()});
 }
 
-/// A hand that leaves the paper does not take the label along, or it would be lost there.
-QPointF OnPaper(QPointF twips) {
-  return {std::clamp(twips.x(), 0.0, double{sheet::Width}),
-          std::clamp(twips.y(), 0.0, double{sheet::Height})};
+/// A hand that leaves the paper, or what shows of it, does not take the label along, or it would be lost
+/// there.
+QPointF OnShownPaper(const SheetView& view, QPointF twips) {
+  const QPointF first = view.ToTwips({0, 0}), last = view.ToTwips({view.width() - 1.0, view.height() - 1.0});
+  return {std::clamp(twips.x(), std::max(0.0, first.x()), std::min(last.x(), double{sheet::Width})),
+          std::clamp(twips.y(), std::max(0.0, first.y()), std::min(last.y(), double{sheet::Height}))};
 }
 
 DragStep StepTowards(Control& control, QPointF twips) {
-  const QPointF at = Inside(control, OnPaper(twips));
+  const QPointF at = Inside(control, twips);
   const auto x = static_cast<float>(at.x()), y = static_cast<float>(at.y());
   return IsLogo(control) ? pic_MouseMove(control, x, y) : lbl_MouseMove(control, x, y);
 }
@@ -65,8 +67,9 @@ void LabelHands::Press(const PageMouseEvent& event) {
 /// the label has caught up.
 void LabelHands::BringTo(QPointF twips) {
   if (!held_) return;
+  const QPointF to = OnShownPaper(view_, twips);
   for (int i = 0; i < MostSteps; ++i)
-    if (StepTowards(*held_, twips) == DragStep::Rests) return;
+    if (StepTowards(*held_, to) == DragStep::Rests) return;
 }
 
 void LabelHands::Move(const PageMouseEvent& event) {
