@@ -66,6 +66,14 @@ void AddLabels(QStringList& lines) {
       if (LabelCounts(p, label.Index())) lines << LabelLine(p, label.Index(), ValuesOf(label));
 }
 
+// The format's logo stands where the page shows it; one that could not be read keeps the place it had.
+void AddLogo(QStringList& lines) {
+  if (format.LogoPath.isEmpty()) return;
+  const Control& logo = page(0).pic[0];
+  lines << (format.LogoChanged ? LogoLine(format.LogoPath, logo.Left(), logo.Top())
+                               : LogoLine(format.LogoPath, format.LogoLeft, format.LogoTop));
+}
+
 // The whole answer, blanks and an extension that was typed along taken off.
 QString NameFrom(const QString& answer) {
   QString name = FoldToCodePage(answer).trimmed();
@@ -167,8 +175,7 @@ QStringList FormatLinesNow() {
   AddTexts(lines);
   AddColumns(lines);
   AddLabels(lines);
-  const Control& logo = page(0).pic[0];
-  if (!format.LogoPath.isEmpty()) lines << LogoLine(format.LogoPath, logo.Left(), logo.Top());
+  AddLogo(lines);
   const UserFont& font = proposal.UDP;
   if (!font.FontName.isEmpty() && font.FontSize != 0) lines << UserFontLine(font);
   return lines;

@@ -97,18 +97,18 @@ QString LogoPathFrom(const QString& stored) {
   return !hasFolder && FileExists(prefs.ProgramFolder, path) ? prefs.ProgramFolder + path : path;
 }
 
-// A logo that cannot be read is told, and costs the logo alone.
+// A logo that cannot be read is told, and costs the logo alone; its line stays with the format, since the
+// shared folder in which it lies may be back tomorrow.
 void ApplyLogo(const PropertyLine& line) {
-  const float left = line.Place("Left"), top = line.Place("Top");
-  const QString path = LogoPathFrom(line.Text("Picture"));
-  Guarded("ParseFormatFile", [&] {
+  format.LogoLeft = line.Place("Left");
+  format.LogoTop = line.Place("Top");
+  format.LogoPath = LogoPathFrom(line.Text("Picture"));
+  format.LogoChanged = false;
+  Guarded("ParseFormatFile", [] {
     Control& logo = page(0).pic[0];
-    logo.SetPicture(desk().LoadPicture(ResolvePath(path)));
-    logo.SetLeft(left);
-    logo.SetTop(top);
-    format.LogoPath = path;
-    format.LogoLeft = left;
-    format.LogoTop = top;
+    logo.SetPicture(desk().LoadPicture(ResolvePath(format.LogoPath)));
+    logo.SetLeft(format.LogoLeft);
+    logo.SetTop(format.LogoTop);
     format.LogoChanged = true;
   });
 }

@@ -31,7 +31,7 @@ LogoChoice PreferredLogo(const QString& path) {
 }
 
 LogoChoice LogoUnderFormat() {
-  if (!format.LogoPath.isEmpty()) {
+  if (format.LogoChanged) {  // the format's own logo could be read
     if (!HasFolder(format.LogoPath)) return {};
     return {ResolvePath(format.LogoPath), format.LogoLeft, format.LogoTop};
   }

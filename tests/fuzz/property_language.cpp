@@ -113,11 +113,16 @@ void StartAfresh() {
   StartNewFile();
 }
 
-// A line may stop the parse by these numbers; a picture on a drive that is not set up also by 76.
+// A picture on a drive that is not set up; its line stays with the format.
+bool IsLostPicture(const QString& report) {
+  return report.contains(QStringLiteral("in ParseFormatFile.\nError Number: 76\n"));
+}
+
+// A line may stop the parse by these numbers.
 bool IsExpected(const QString& report) {
   for (const int number : {5, 6, 9, 13})
     if (report.contains(QStringLiteral("\nError Number: %1\n").arg(number))) return true;
-  return report.contains(QStringLiteral("in ParseFormatFile.\nError Number: 76\n"));
+  return IsLostPicture(report);
 }
 
 void RequireQuiet(const FakeDesk& desk) {
@@ -175,7 +180,8 @@ void CheckReading(QStringList (*read)(const QByteArray&), const QByteArray& file
   RequireTrueLines(file, kept, lines, listener);
   listener.said.clear();
   Require(read(BytesOfLines(lines)) == lines, "lines that were written and read are written again alike");
-  Require(listener.said.isEmpty(), "what the program has written it can read");
+  for (const Said& box : listener.said)
+    Require(IsLostPicture(box.text), "what the program has written it can read");
 }
 
 }  // namespace

@@ -53,6 +53,7 @@ class Formats : public test::ProposalTest {
     proposal.UDP = {"Times New Roman", 9, 255, true};
     ApplyUserFont();
     format.LogoPath = prefs.ProgramFolder + "rose.png";
+    format.LogoChanged = true;
     At("frmP1.pic").SetLeft(1500);
     At("frmP1.pic").SetTop(600.5F);
   }
