@@ -152,10 +152,16 @@ bool StoreAsDefault() {
                                    format.FormatFolder + format.FormatName);
 }
 
+// A format of nothing but a font has nothing to write a second time, and can be the default all the same.
+bool IsSavedAs(const QString& name) {
+  return format.FormatIsOpen && format.FormatName == name + Extension &&
+         FileExists(format.FormatFolder, format.FormatName);
+}
+
 bool SaveUnder(const QString& name) {
   const bool unsavedWork = ProposalHasChanged();
   SaveTextBoxFeatures();
-  if (!FormatChanged()) return false;
+  if (!FormatChanged()) return IsSavedAs(name) && (!format.FormatAsDefault || StoreAsDefault());
   // The marks and lines follow the file: what could not be written still counts as unsaved.
   ReplaceFile(format.FormatFolder + name + Extension, BytesOfLines(FormatLinesNow()));
   AssignFormatPropChanges();

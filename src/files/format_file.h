@@ -13,8 +13,8 @@ QStringList FormatLinesNow();
 /// True when there is anything for a format file to hold, or the lines differ from those last written or
 /// read.
 bool FormatChanged();
-/// Writes the format under its name, or under one that it asks for.  True when it was written, and stored as
-/// the default where format.FormatAsDefault asks for that.
+/// Writes the format under its name, or under one that it asks for.  True when it was written or its file has
+/// all of it already, and when it was stored as the default where format.FormatAsDefault asks for that.
 bool SaveFileFormat();
 /// Applies the open format to blank pages.  One that cannot be read is reported and is no longer open.
 void OpenFormatFile();

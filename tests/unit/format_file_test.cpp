@@ -142,6 +142,12 @@ TEST_F(Formats, ABlankPageIsNotWrittenAndNoDefault) {
   DefaultFormatCommand();
   EXPECT_FALSE(Exists("Empty.wft") || prefs.LoadDefaultFormat || format.FormatIsOpen);
   EXPECT_EQ(prefs.DefaultFileFormat, "");
+
+  PutFormat("Letters.wft", {"UDP.FontName=Arial .FontSize=9 .FontColor=255 .FontItalic=False"});
+  Pick("Letters.wft");
+  DefaultFormatCommand();
+  EXPECT_TRUE(prefs.LoadDefaultFormat);
+  EXPECT_EQ(prefs.DefaultFileFormat, PathOf("Letters.wft")) << "its file has all of it";
 }
 
 TEST_F(Formats, TheDefaultBeginsEachNewProposalUntilItIsSetAside) {
