@@ -289,6 +289,8 @@ void SheetView::TellPage(PageMouseEvent::What what, const QMouseEvent& event) {
 void SheetView::mousePressEvent(QMouseEvent* event) {
   event->accept();
   if (mode_ == DrawMode::Printing) return;
+  // A second button that goes down does not end what the first one holds: a drag would be left half done.
+  if (event->buttons() != event->button()) return;
   editor_->FinishComposing();
   pressed_ = ControlAt(ToTwips(event->position()), event->modifiers());
   if (!pressed_ || pressed_->GetKind() == Kind::Label || pressed_->GetKind() == Kind::Picture)
@@ -311,7 +313,7 @@ void SheetView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SheetView::mouseReleaseEvent(QMouseEvent* event) {
-  if (mode_ == DrawMode::Printing) return;
+  if (mode_ == DrawMode::Printing || event->buttons() != Qt::NoButton) return;
   Control* pressed = pressed_;
   if (!pressed || pressed->GetKind() == Kind::Label || pressed->GetKind() == Kind::Picture) {
     TellPage(PageMouseEvent::What::Release, *event);

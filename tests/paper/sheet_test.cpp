@@ -333,6 +333,9 @@ TEST_F(Sheet, HandsOverALabelUnderAnAreaWithCtrlAndSlidesUnderItsDrag) {
   QApplication::sendEvent(&view, &drag);
   EXPECT_GT(label.Top(), top);
   EXPECT_TRUE(QTest::qWaitFor([this] { return view.Scroll() > 0; })) << "the sheet follows";
+  QTest::mousePress(&view, Qt::RightButton, {}, on);
+  QTest::mouseRelease(&view, Qt::RightButton, {}, on);
+  EXPECT_TRUE(page(1).drag.Dragging) << "another button changes nothing";
   QTest::mouseRelease(&view, Qt::LeftButton, {}, under);
   EXPECT_EQ(Focus(), "frmP2.txt(5)");
   EXPECT_TRUE(proposal.LabelRec[1][38].Changed);
