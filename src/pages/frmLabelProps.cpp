@@ -102,6 +102,7 @@ QGridLayout* LabelPropsWindow::MakeCaption() {
   label->setBuddy(txtCaption_);
   auto* layout = new QGridLayout;
   layout->setHorizontalSpacing(10);
+  layout->setVerticalSpacing(6);
   layout->addWidget(label, 0, 0);
   layout->addWidget(txtCaption_, 0, 1);
   if (const QString remark = RemarkOn(words); !remark.isEmpty()) {
