@@ -32,15 +32,21 @@ void NeedFolder(const QString& path) {
   if (!QDir().mkpath(path)) Raise(errors::PathFileAccess, path);
 }
 
-void CopyPart(const QString& from, const QString& to) {
+using CopyOne = void (*)(const QString& from, const QString& to);
+
+void CopyPart(const QString& from, const QString& to, CopyOne copy) {
   const QFileInfo source(from);
   if (!source.isDir()) {
-    if (source.exists()) CopyWhereMissing(from, to);
+    if (source.exists()) copy(from, to);
     return;
   }
   NeedFolder(to);
   for (const QString& name : QDir(from).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
-    CopyPart(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name);
+    CopyPart(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name, copy);
+}
+
+void CopyOver(const QString& from, const QString& to) {
+  ReplaceFile(to, ReadWholeFile(from));
 }
 
 /// The first line of the preferences says whether the program has run before; reading them all would change
@@ -80,11 +86,20 @@ constexpr Twins SameMetrics[] = {
 
 void FillProgramFolder(const QString& folder, const QString& data) {
   NeedFolder(folder);
-  // A folder that was filled once is the user's: what was removed since stays removed.
   const QString mark = WithSeparator(folder) + QStringLiteral(".filled");
-  if (QFileInfo::exists(mark) || !QFileInfo(data).isDir()) return;
-  for (const QString& part : Installed()) CopyPart(WithSeparator(data) + part, WithSeparator(folder) + part);
-  ReplaceFile(mark, QByteArray(QUILLANE_VERSION "\n"));
+  const QByteArray version(QUILLANE_VERSION "\n");
+  const bool filled = QFileInfo::exists(mark);
+  if (!QFileInfo(data).isDir() || (filled && ReadWholeFile(mark) == version)) return;
+  // A folder that was filled once is the user's: what was removed since stays removed.  Only the help is the
+  // program's own, and tells of the version that runs.
+  const auto copy = [&](const QString& part, CopyOne one) {
+    CopyPart(WithSeparator(data) + part, WithSeparator(folder) + part, one);
+  };
+  if (filled)
+    copy(QStringLiteral("Help"), CopyOver);
+  else
+    for (const QString& part : Installed()) copy(part, CopyWhereMissing);
+  ReplaceFile(mark, version);
 }
 
 bool FontInstalled(const QString& name) {

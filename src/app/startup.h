@@ -5,7 +5,7 @@
 namespace quillane {
 
 /// Fills `folder` (the program's folder) from the installed `data` on first start; never touches a file that
-/// is there.
+/// is there, but for the help, which is put in place again when another version starts.
 void FillProgramFolder(const QString& folder, const QString& data);
 /// The entry point's questions: the first-instance message, the font test.  False when the user chose to
 /// leave.

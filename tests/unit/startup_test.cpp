@@ -12,9 +12,11 @@ namespace {
 using Startup = ConnectedProgram;
 
 TEST_F(Startup, ProgramFolderIsFilledOnceAndNeverOverwritten) {
-  for (const char* made : {"data/Wedding Proposals", "data/icons", "home"}) QDir(Path("")).mkpath(made);
+  for (const char* made : {"data/Wedding Proposals", "data/Help", "data/icons", "home"})
+    QDir(Path("")).mkpath(made);
   Put("data/UserPreferences.txt", "installed");
   Put("data/Wedding Proposals/Event Terms.fut", "terms");
+  Put("data/Help/index.htm", "help");
   Put("data/icons/new.svg", "drawing");
   Put("data/events.jpg", "installed");
   Put("home/events.jpg", "the user's");
@@ -30,6 +32,15 @@ TEST_F(Startup, ProgramFolderIsFilledOnceAndNeverOverwritten) {
   QFile::remove(Path("home/UserPreferences.txt"));
   FillProgramFolder(Path("home"), Path("data"));
   EXPECT_FALSE(QFile::exists(Path("home/UserPreferences.txt"))) << "removed preferences must stay removed";
+
+  Put("data/Help/index.htm", "newer help");
+  FillProgramFolder(Path("home"), Path("data"));
+  EXPECT_EQ(Get("home/Help/index.htm"), "help") << "the same version looks at one file only";
+  Put("home/.filled", "0.0.1");
+  FillProgramFolder(Path("home"), Path("data"));
+  EXPECT_EQ(Get("home/Help/index.htm"), "newer help");
+  EXPECT_EQ(Get("home/events.jpg"), "the user's");
+  EXPECT_FALSE(QFile::exists(Path("home/UserPreferences.txt")));
 }
 
 TEST_F(Startup, APageOutsideClearsTheButtonsOnly) {
