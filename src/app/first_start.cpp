@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "app/preferences.h"
+#include "app/small_commands.h"
 #include "app/startup.h"
 #include "model/proposal.h"
 #include "platform/files.h"
@@ -87,7 +88,7 @@ constexpr Twins SameMetrics[] = {
 void FillProgramFolder(const QString& folder, const QString& data) {
   NeedFolder(folder);
   const QString mark = WithSeparator(folder) + QStringLiteral(".filled");
-  const QByteArray version(QUILLANE_VERSION "\n");
+  const QByteArray version = ProgramVersion().toLatin1() + '\n';
   const bool filled = QFileInfo::exists(mark);
   if (!QFileInfo(data).isDir() || (filled && ReadWholeFile(mark) == version)) return;
   // A folder that was filled once is the user's: what was removed since stays removed.  Only the help is the

@@ -4,6 +4,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "app/small_commands.h"
 #include "platform/files.h"
 #include "qt/program.h"
 
@@ -33,7 +34,7 @@ QString DataFolder() {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Quillane"));
-  QApplication::setApplicationVersion(QStringLiteral(QUILLANE_VERSION));
+  QApplication::setApplicationVersion(ProgramVersion());
   QApplication::setDesktopFileName(QStringLiteral("quillane"));
   // The program ends by its own command only: the splash goes before the main window stands.
   QApplication::setQuitOnLastWindowClosed(false);
