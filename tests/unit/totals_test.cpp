@@ -171,6 +171,9 @@ TEST_F(Totals, KeepTheMarkOfAnExemptAmountInBothLayers) {
   MakeTaxExempt();
   EXPECT_TRUE(proposal.TextRec[2][36].TaxExempt && proposal.TextRec[2][36].PropChanged);
   EXPECT_TRUE(format.FormatTextRec[2][36].TaxExempt);
+  At("frmP3.txt(36)").SetText("40.5");
+  EXPECT_EQ(proposal.AreaAmount[2][36], 40.5F);
+  EXPECT_EQ(proposal.AreaTaxable[2][36], 0) << "what is typed beside the mark is exempt as well";
   MakeTaxable();
   EXPECT_TRUE(At("frmP3.imgNoTax(36)").Hidden());
   EXPECT_FALSE(proposal.TextRec[2][36].TaxExempt);
