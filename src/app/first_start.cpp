@@ -10,6 +10,7 @@
 #include "platform/files.h"
 #include "platform/runtime_error.h"
 #include "ui/desk.h"
+#include "ui/font_twins.h"
 
 namespace quillane {
 
@@ -68,21 +69,6 @@ bool GoOnWithoutArial() {
                   QStringLiteral("Arial font not found."));
 }
 
-/// Fonts of the same metrics, which the system puts in each other's place.
-struct Twins {
-  const char *name, *substitute;
-};
-constexpr Twins SameMetrics[] = {
-    {"Arial", "Liberation Sans"},
-    {"Arial", "Arimo"},
-    {"Times New Roman", "Liberation Serif"},
-    {"Times New Roman", "Tinos"},
-    {"Courier New", "Liberation Mono"},
-    {"Courier New", "Cousine"},
-    {"Calibri", "Carlito"},
-    {"Cambria", "Caladea"},
-};
-
 }  // namespace
 
 void FillProgramFolder(const QString& folder, const QString& data) {
@@ -104,13 +90,7 @@ void FillProgramFolder(const QString& folder, const QString& data) {
 }
 
 bool FontInstalled(const QString& name) {
-  const QStringList fonts = desk().ScreenFonts();
-  if (fonts.contains(name, Qt::CaseInsensitive)) return true;
-  for (const Twins& twins : SameMetrics)
-    if (name.compare(QLatin1String(twins.name), Qt::CaseInsensitive) == 0 &&
-        fonts.contains(QLatin1String(twins.substitute), Qt::CaseInsensitive))
-      return true;
-  return false;
+  return WithTwins(desk().ScreenFonts()).contains(name, Qt::CaseInsensitive);
 }
 
 bool Main() {

@@ -9,6 +9,7 @@
 #include "platform/codepage.h"
 #include "qt/painter_surface.h"
 #include "ui/desk.h"
+#include "ui/font_twins.h"
 
 namespace quillane {
 
@@ -85,7 +86,9 @@ FontList::FontList(std::function<void(const QString&)> chosen) {
   Named(this, QStringLiteral("lstFont"), QStringLiteral("Font"));
   setUniformItemSizes(true);
   // The name goes into the proposal's files, so it must be one that they can hold.
-  for (const QString& name : desk().ScreenFonts())
+  QStringList names = WithTwins(desk().ScreenFonts());
+  names.sort(Qt::CaseInsensitive);
+  for (const QString& name : names)
     if (FoldToCodePage(name) == name) addItem(name);
   connect(this, &QListWidget::itemSelectionChanged, this, [this, chosen] {
     const QList<QListWidgetItem*> selected = selectedItems();

@@ -51,7 +51,8 @@ class ColourChoice : public QWidget {
   std::vector<ColourButton*> buttons_;  // the layout owns them
 };
 
-/// lstFont: the fonts of the screen.  Nothing is selected for a font that the system does not have.
+/// lstFont: the fonts of the screen, under all the names that they answer to.  Nothing is selected for a font
+/// that the system does not have.
 class FontList : public QListWidget {
  public:
   explicit FontList(std::function<void(const QString&)> chosen);

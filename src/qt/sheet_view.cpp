@@ -119,24 +119,30 @@ QRect SheetView::PixelRect(const Control& control) const {
   return QRect(from, QSize(to.x() - from.x(), to.y() - from.y()));
 }
 
-Control* SheetView::TopmostAt(QPointF twips, bool (*wanted)(Kind kind)) const {
+Control* SheetView::TopmostAt(QPointF twips, bool (*wanted)(Kind kind), double emptyLabel) const {
   const auto& controls = CurrentPage().Controls();
   const auto found = std::find_if(controls.rbegin(), controls.rend(), [&](const Control* control) {
     if (!control->Visible() || !wanted(control->GetKind())) return false;
     const Box box = EditingBox(*control);
-    return QRectF(double{box.left}, double{box.top}, double{box.width}, double{box.height}).contains(twips);
+    const bool empty = control->GetKind() == Kind::Label && control->Caption().isEmpty();
+    const double width = empty ? emptyLabel : double{box.width};
+    return QRectF(double{box.left}, double{box.top}, width, double{box.height}).contains(twips);
   });
   return found == controls.rend() ? nullptr : *found;
 }
 
 Control* SheetView::ControlAt(QPointF twips) const {
-  return TopmostAt(twips, [](Kind kind) { return kind != Kind::Line && kind != Kind::Shape; });
+  return TopmostAt(
+      twips, [](Kind kind) { return kind != Kind::Line && kind != Kind::Shape; }, 0);
 }
 
 Control* SheetView::ControlAt(QPointF twips, Qt::KeyboardModifiers modifiers) const {
+  // A label whose words were taken away has no width; its place stays within reach.
+  constexpr double QuarterInch = 360;
   Control* label = nullptr;
   if (modifiers.testFlag(Qt::ControlModifier))
-    label = TopmostAt(twips, [](Kind kind) { return kind == Kind::Label || kind == Kind::Picture; });
+    label = TopmostAt(
+        twips, [](Kind kind) { return kind == Kind::Label || kind == Kind::Picture; }, QuarterInch);
   return label ? label : ControlAt(twips);
 }
 

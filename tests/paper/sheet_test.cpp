@@ -327,6 +327,8 @@ TEST_F(Sheet, HandsOverALabelUnderAnAreaWithCtrlAndSlidesUnderItsDrag) {
   const float top = label.Top();
   QTest::mouseClick(&view, Qt::LeftButton, {}, on);
   EXPECT_EQ(Focus(), "frmP2.txt(5)") << "the area is still clicked";
+  label.SetCaption(QString());
+  EXPECT_EQ(view.ControlAt(view.ToTwips(on), Qt::ControlModifier), &label) << "without words as well";
   QTest::mousePress(&view, Qt::LeftButton, Qt::ControlModifier, on);
   const QPoint under(on.x(), view.height() + 40);
   QMouseEvent drag(QEvent::MouseMove, under, view.mapToGlobal(under), Qt::NoButton, Qt::LeftButton, {});
