@@ -104,7 +104,8 @@ class SheetView : public QWidget, private FormObserver {
 
   Page& CurrentPage() const { return page(window_); }
   double SheetLeft() const;
-  /// The topmost visible control of the wanted kinds; a label without words counts as `emptyLabel` twips wide.
+  /// The topmost visible control of the wanted kinds; a label without words counts as `emptyLabel` twips
+  /// wide.
   Control* TopmostAt(QPointF twips, bool (*wanted)(Kind kind), double emptyLabel) const;
   void PaintGround(QPainter& painter, const QRect& stale) const;
   void PaintControls(QPainter& painter, const QRect& stale) const;

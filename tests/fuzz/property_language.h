@@ -1,4 +1,5 @@
-// The property language under attack: files of lines that are nearly right, and what must hold for all of them.
+// The property language under attack: files of lines that are nearly right, and what must hold for all of
+// them.
 #pragma once
 #include <QByteArray>
 #include <random>
