@@ -40,7 +40,7 @@ class TextPropsWindow : public QDialog {
   ColourChoice* colours_ = nullptr;
   QCheckBox* chkItalic_ = nullptr;
   std::vector<QRadioButton*> optFontSize_;
-  QLabel *lblFontName_ = nullptr, *lblFontColor_ = nullptr, *lblDefault_ = nullptr;
+  QLabel *lblFontName_ = nullptr, *lblFontColor_ = nullptr;
   QLineEdit* txtSample_ = nullptr;
 };
 

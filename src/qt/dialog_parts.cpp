@@ -60,7 +60,7 @@ void ColourButton::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(whole.adjusted(gap, gap, -gap, -gap), radius, radius);
 }
 
-ColourChoice::ColourChoice(std::function<void(Color)> chosen) {
+ColourChoice::ColourChoice(const std::function<void(Color)>& chosen) {
   constexpr int perRow = 4;
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
@@ -82,7 +82,7 @@ void ColourChoice::ShowColour(Color color) {
   for (ColourButton* button : buttons_) button->setChecked(button->GetColor() == color);
 }
 
-FontList::FontList(std::function<void(const QString&)> chosen) {
+FontList::FontList(const std::function<void(const QString&)>& chosen) {
   Named(this, QStringLiteral("lstFont"), QStringLiteral("Font"));
   setUniformItemSizes(true);
   // The name goes into the proposal's files, so it must be one that they can hold.

@@ -2,6 +2,7 @@
 #pragma once
 #include <QAbstractButton>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <functional>
@@ -43,7 +44,7 @@ class ColourButton : public QAbstractButton {
 /// cmdColor(0) to cmdColor(7) in two rows.
 class ColourChoice : public QWidget {
  public:
-  explicit ColourChoice(std::function<void(Color)> chosen);
+  explicit ColourChoice(const std::function<void(Color)>& chosen);
   /// Rings the button of that colour, or none.
   void ShowColour(Color color);
 
@@ -55,7 +56,7 @@ class ColourChoice : public QWidget {
 /// that the system does not have.
 class FontList : public QListWidget {
  public:
-  explicit FontList(std::function<void(const QString&)> chosen);
+  explicit FontList(const std::function<void(const QString&)>& chosen);
   /// Selects a font by its name without telling that it was chosen.
   void ShowFont(const QString& name);
 
