@@ -71,10 +71,7 @@ std::unique_ptr<QDialog> MakePreferencesWindow(QWidget* parent) {
   return window;
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmPref"), MakePreferencesWindow);
-  return true;
-}();
+const RegisteredWindow registered("frmPref", MakePreferencesWindow);
 
 }  // namespace
 

@@ -232,12 +232,7 @@ void Splash::PrintCentred(QPainter& painter, double points, int twipsUnderMiddle
   painter.drawText(QRect(0, top, width(), painter.fontMetrics().height()), Qt::AlignHCenter, text);
 }
 
-const struct Registration {
-  Registration() {
-    RegisterWindow(QStringLiteral("frmSplash"),
-                   [](QWidget* parent) { return std::make_unique<Splash>(parent); });
-  }
-} registration;
+const RegisteredWindow registered("frmSplash", Make<Splash>);
 
 }  // namespace
 

@@ -308,11 +308,7 @@ void FileWindow::Finish() {
   done(Rejected);
 }
 
-const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmFile"),
-                 [](QWidget* parent) { return std::make_unique<FileWindow>(parent); });
-  return true;
-}();
+const RegisteredWindow registered("frmFile", Make<FileWindow>);
 
 }  // namespace
 

@@ -230,14 +230,13 @@ void LabelPropsWindow::done(int result) {
   QDialog::done(result);
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmLabelProps"), [](QWidget* parent) -> std::unique_ptr<QDialog> {
-    std::unique_ptr<QDialog> window;
-    Guarded("LoadLabelProps", [&] { window = std::make_unique<LabelPropsWindow>(parent); });
-    return window;
-  });
-  return true;
-}();
+std::unique_ptr<QDialog> MakeLabelPropsWindow(QWidget* parent) {
+  std::unique_ptr<QDialog> window;
+  Guarded("LoadLabelProps", [&] { window = std::make_unique<LabelPropsWindow>(parent); });
+  return window;
+}
+
+const RegisteredWindow registered("frmLabelProps", MakeLabelPropsWindow);
 
 }  // namespace
 

@@ -188,11 +188,7 @@ void ColourWindow::Mix() {
   setPalette(colours);
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmRGB"),
-                 [](QWidget* parent) { return std::make_unique<ColourWindow>(parent); });
-  return true;
-}();
+const RegisteredWindow registered("frmRGB", Make<ColourWindow>);
 
 }  // namespace
 

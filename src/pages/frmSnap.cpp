@@ -79,10 +79,7 @@ std::unique_ptr<QDialog> MakeSnapWindow(QWidget* parent) {
   return window;
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmSnap"), MakeSnapWindow);
-  return true;
-}();
+const RegisteredWindow registered("frmSnap", MakeSnapWindow);
 
 }  // namespace
 

@@ -64,10 +64,7 @@ std::unique_ptr<QDialog> MakeTaxWindow(QWidget* parent) {
   return window;
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmTax"), MakeTaxWindow);
-  return true;
-}();
+const RegisteredWindow registered("frmTax", MakeTaxWindow);
 
 }  // namespace
 

@@ -176,11 +176,7 @@ void TextPropsWindow::done(int result) {
   QDialog::done(result);
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmTextProps"),
-                 [](QWidget* parent) { return std::make_unique<TextPropsWindow>(parent); });
-  return true;
-}();
+const RegisteredWindow registered("frmTextProps", Make<TextPropsWindow>);
 
 }  // namespace
 

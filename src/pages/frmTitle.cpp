@@ -96,10 +96,7 @@ std::unique_ptr<QDialog> MakeTitleWindow(QWidget* parent) {
   return window;
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmTitle"), MakeTitleWindow);
-  return true;
-}();
+const RegisteredWindow registered("frmTitle", MakeTitleWindow);
 
 }  // namespace
 

@@ -38,11 +38,7 @@ class PrintDialog : public QDialog {
   void reject() override { CancelPrint(); }
 };
 
-const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmDialog"),
-                 [](QWidget* parent) { return std::make_unique<PrintDialog>(parent); });
-  return true;
-}();
+const RegisteredWindow registered("frmDialog", Make<PrintDialog>);
 
 }  // namespace
 

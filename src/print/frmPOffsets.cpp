@@ -116,10 +116,7 @@ std::unique_ptr<QDialog> MakeOffsetsWindow(QWidget* parent) {
   return window;
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmPOffsets"), MakeOffsetsWindow);
-  return true;
-}();
+const RegisteredWindow registered("frmPOffsets", MakeOffsetsWindow);
 
 }  // namespace
 

@@ -70,10 +70,7 @@ std::unique_ptr<QDialog> MakePrintersWindow(QWidget* parent) {
   return window;
 }
 
-[[maybe_unused]] const bool registered = [] {
-  RegisterWindow(QStringLiteral("frmPrinters"), MakePrintersWindow);
-  return true;
-}();
+const RegisteredWindow registered("frmPrinters", MakePrintersWindow);
 
 }  // namespace
 

@@ -11,8 +11,8 @@ std::map<QString, WindowMaker>& Makers() {
 }
 }  // namespace
 
-void RegisterWindow(const QString& name, WindowMaker maker) {
-  Makers()[name] = std::move(maker);
+RegisteredWindow::RegisteredWindow(const char* name, WindowMaker maker) {
+  Makers()[QString::fromLatin1(name)] = std::move(maker);
 }
 
 std::unique_ptr<QDialog> MakeWindow(const QString& name, QWidget* parent) {
