@@ -47,10 +47,6 @@ void CopyPart(const QString& from, const QString& to, CopyOne copy) {
     CopyPart(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name, copy);
 }
 
-void CopyOver(const QString& from, const QString& to) {
-  ReplaceFile(to, ReadWholeFile(from));
-}
-
 /// The first line of the preferences says whether the program has run before; reading them all would change
 /// it.
 bool IsFirstStart() {
@@ -83,7 +79,7 @@ void FillProgramFolder(const QString& folder, const QString& data) {
     CopyPart(WithSeparator(data) + part, WithSeparator(folder) + part, one);
   };
   if (filled)
-    copy(QStringLiteral("Help"), CopyOver);
+    copy(QStringLiteral("Help"), CopyFileOver);
   else
     for (const QString& part : Installed()) copy(part, CopyWhereMissing);
   ReplaceFile(mark, version);

@@ -26,17 +26,6 @@ void StartWithoutFormat() {
   StartNewFile();
 }
 
-// A file that is gone already is as good as deleted.
-bool RemoveFormatFile(const QString& path) {
-  return Guarded("mnuFileFormatDelete", [&] {
-    try {
-      RemoveFile(path);
-    } catch (const RuntimeError& error) {
-      if (error.Number() != errors::FileNotFound) throw;
-    }
-  });
-}
-
 bool IsDefault(const QString& path) {
   if (prefs.DefaultFileFormat.isEmpty() || !prefs.LoadDefaultFormat) return false;
   return ResolvePath(prefs.DefaultFileFormat).compare(ResolvePath(path), Qt::CaseInsensitive) == 0;
@@ -78,7 +67,7 @@ void DeleteFormatCommand() {
     return;
   const QString path = format.FormatFolder + format.FormatName;
   const bool wasDefault = IsDefault(path);
-  if (!RemoveFormatFile(path)) return;
+  if (!Guarded("mnuFileFormatDelete", [&] { RemoveFileIfThere(path); })) return;
   // Every start would report that the default is not there.
   if (wasDefault) upcalls().StorePreference(QStringLiteral("Load Default Format:"), QStringLiteral("False"));
   StartWithoutFormat();

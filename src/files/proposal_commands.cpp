@@ -25,16 +25,9 @@ void RemoveSiblings(const QString& base) {
   }
 }
 
-// A proposal file that is gone already is as good as deleted; one that cannot be deleted stays open, since a
-// blank page would say that it is gone.
+// A proposal file that cannot be deleted stays open, since a blank page would say that it is gone.
 bool RemoveProposalFile(const QString& path) {
-  return Guarded("mnuFileDelete", [&] {
-    try {
-      RemoveFile(path);
-    } catch (const RuntimeError& error) {
-      if (error.Number() != errors::FileNotFound) throw;
-    }
-  });
+  return Guarded("mnuFileDelete", [&] { RemoveFileIfThere(path); });
 }
 
 void TakeBackup() {

@@ -205,8 +205,8 @@ QGroupBox* LabelPropsWindow::MakeColours() {
 
 QDialogButtonBox* LabelPropsWindow::MakeButtons() {
   auto* buttons = new QDialogButtonBox;
-  AddButton(*buttons, QStringLiteral("cmdOK"), QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
-  AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  AddButton(*buttons, "cmdOK", "OK", QDialogButtonBox::AcceptRole);
+  AddButton(*buttons, "cmdCancel", "Cancel", QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   return buttons;

@@ -155,8 +155,8 @@ QVBoxLayout* ColourWindow::MakeSteps() {
 
 QDialogButtonBox* ColourWindow::MakeButtons() {
   auto* buttons = new QDialogButtonBox;
-  AddButton(*buttons, QStringLiteral("cmdOK"), QStringLiteral("Apply"), QDialogButtonBox::AcceptRole);
-  AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  AddButton(*buttons, "cmdOK", "Apply", QDialogButtonBox::AcceptRole);
+  AddButton(*buttons, "cmdCancel", "Cancel", QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(buttons, &QDialogButtonBox::accepted, this, [this] {
     Guarded("RGB_OK", [this] { ApplyMixedColour(color_); });

@@ -132,10 +132,9 @@ QWidget* TextPropsWindow::MakeSample() {
 QDialogButtonBox* TextPropsWindow::MakeButtons() {
   auto* buttons = new QDialogButtonBox;
   QPushButton* byDefault =
-      AddButton(*buttons, QStringLiteral("cmdDefault"),
-                QStringLiteral("Set these Font Properties as Default"), QDialogButtonBox::ResetRole);
-  AddButton(*buttons, QStringLiteral("cmdOK"), QStringLiteral("Apply Changes"), QDialogButtonBox::AcceptRole);
-  AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+      AddButton(*buttons, "cmdDefault", "Set these Font Properties as Default", QDialogButtonBox::ResetRole);
+  AddButton(*buttons, "cmdOK", "Apply Changes", QDialogButtonBox::AcceptRole);
+  AddButton(*buttons, "cmdCancel", "Cancel", QDialogButtonBox::RejectRole);
   connect(byDefault, &QPushButton::clicked, this, [] { Guarded("cmdDefault_Click", MakeUserFontDefault); });
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

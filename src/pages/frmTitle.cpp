@@ -76,11 +76,11 @@ std::unique_ptr<QDialog> MakeTitleWindow(QWidget* parent) {
   QLineEdit* subTitle = AddTitle(*grid, 1, QStringLiteral("txtSubTitle"),
                                  QStringLiteral("Your Current Proposal is Sub-titled..."), shown.subTitle);
   auto* buttons = new QDialogButtonBox;
-  QPushButton* byDefault = AddButton(*buttons, QStringLiteral("cmdDefault"),
-                                     QStringLiteral("Make This Title Default"), QDialogButtonBox::ResetRole);
+  QPushButton* byDefault =
+      AddButton(*buttons, "cmdDefault", "Make This Title Default", QDialogButtonBox::ResetRole);
   byDefault->setToolTip(QStringLiteral("New proposals will begin with this subtitle"));
-  AddButton(*buttons, QStringLiteral("cmdOK"), QStringLiteral("Save and Exit"), QDialogButtonBox::AcceptRole);
-  AddButton(*buttons, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  AddButton(*buttons, "cmdOK", "Save and Exit", QDialogButtonBox::AcceptRole);
+  AddButton(*buttons, "cmdCancel", "Cancel", QDialogButtonBox::RejectRole);
   auto* layout = new QVBoxLayout(dialog);
   layout->addLayout(grid);
   layout->addWidget(buttons);

@@ -364,6 +364,14 @@ void RemoveFile(const QString& stored) {
   RaiseErrno(errno, path);
 }
 
+void RemoveFileIfThere(const QString& path) {
+  try {
+    RemoveFile(path);
+  } catch (const RuntimeError& error) {
+    if (error.Number() != errors::FileNotFound) throw;
+  }
+}
+
 void CopyFileOver(const QString& from, const QString& to) {
   ReplaceFile(to, ReadWholeFile(from));
 }

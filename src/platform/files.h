@@ -42,6 +42,8 @@ void ReplaceFile(const QString& path, const QByteArray& bytes);
 void WriteAt(const QString& path, qint64 position, const QByteArray& bytes);
 /// Clears a read-only mark first, as the program's deletes do.  Throws 53, 70 or 75.
 void RemoveFile(const QString& path);
+/// As RemoveFile; a file that is gone already is as good as removed.
+void RemoveFileIfThere(const QString& path);
 void CopyFileOver(const QString& from, const QString& to);
 /// Throws 58 when `to` exists already.
 void RenameFile(const QString& from, const QString& to);

@@ -11,6 +11,7 @@
 
 #include "model/report.h"
 #include "print/offsets.h"
+#include "qt/dialog_parts.h"
 #include "qt/key_filter.h"
 #include "qt/windows.h"
 
@@ -68,14 +69,6 @@ QMenuBar* MakeMenuBar(QDialog* dialog) {
   return bar;
 }
 
-QPushButton* AddButton(QDialogButtonBox& buttons, const char* name, const char* caption,
-                       QDialogButtonBox::ButtonRole role) {
-  QPushButton* button = buttons.addButton(QString::fromLatin1(caption), role);
-  button->setObjectName(QLatin1String(name));
-  button->setAutoDefault(false);
-  return button;
-}
-
 std::unique_ptr<QDialog> MakeOffsetsWindow(QWidget* parent) {
   auto window = std::make_unique<QDialog>(parent);
   QDialog* dialog = window.get();
@@ -97,6 +90,7 @@ std::unique_ptr<QDialog> MakeOffsetsWindow(QWidget* parent) {
   QPushButton* apply = AddButton(*buttons, "cmdOK", "Apply", QDialogButtonBox::ApplyRole);
   QPushButton* save = AddButton(*buttons, "cmdSavePrinterOffsets", "Save these Values and Exit",
                                 QDialogButtonBox::AcceptRole);
+  save->setDefault(false);
   apply->setDefault(true);
   auto* layout = new QVBoxLayout(dialog);
   layout->setMenuBar(MakeMenuBar(dialog));

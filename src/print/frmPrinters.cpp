@@ -8,6 +8,7 @@
 
 #include "model/report.h"
 #include "print/printer_choice.h"
+#include "qt/dialog_parts.h"
 #include "qt/windows.h"
 
 namespace quillane {
@@ -30,13 +31,6 @@ QComboBox* MakeBox() {
   return box;
 }
 
-QPushButton* AddButton(QDialogButtonBox& buttons, const char* name, const char* caption,
-                       QDialogButtonBox::ButtonRole role) {
-  QPushButton* button = buttons.addButton(QString::fromLatin1(caption), role);
-  button->setObjectName(QLatin1String(name));
-  return button;
-}
-
 std::unique_ptr<QDialog> MakePrintersWindow(QWidget* parent) {
   auto window = std::make_unique<QDialog>(parent);
   QDialog* dialog = window.get();
@@ -49,8 +43,7 @@ std::unique_ptr<QDialog> MakePrintersWindow(QWidget* parent) {
   QComboBox* box = MakeBox();
   label->setBuddy(box);
   auto* buttons = new QDialogButtonBox;
-  AddButton(*buttons, "cmdPrinter", "Make This My Default Printer", QDialogButtonBox::AcceptRole)
-      ->setDefault(true);
+  AddButton(*buttons, "cmdPrinter", "Make This My Default Printer", QDialogButtonBox::AcceptRole);
   AddButton(*buttons, "cmdExit", "Exit Without Changing", QDialogButtonBox::RejectRole);
   layout->addWidget(label);
   layout->addWidget(box);

@@ -19,9 +19,10 @@ QLabel* PlainLabel(const QString& name, const QString& text) {
   return label;
 }
 
-QPushButton* AddButton(QDialogButtonBox& buttons, const QString& name, const QString& caption,
+QPushButton* AddButton(QDialogButtonBox& buttons, const char* name, const char* caption,
                        QDialogButtonBox::ButtonRole role) {
-  QPushButton* button = Named(buttons.addButton(caption, role), name);
+  QPushButton* button =
+      Named(buttons.addButton(QString::fromLatin1(caption), role), QString::fromLatin1(name));
   button->setAutoDefault(false);
   if (role == QDialogButtonBox::AcceptRole) button->setDefault(true);
   return button;

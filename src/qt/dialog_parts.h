@@ -23,7 +23,7 @@ Widget* Named(Widget* widget, const QString& name, const QString& spoken = QStri
 QLabel* PlainLabel(const QString& name, const QString& text);
 
 /// A push button of a box; the first one that accepts is the default.
-QPushButton* AddButton(QDialogButtonBox& buttons, const QString& name, const QString& caption,
+QPushButton* AddButton(QDialogButtonBox& buttons, const char* name, const char* caption,
                        QDialogButtonBox::ButtonRole role);
 
 /// A button that is a colour, and says so by a ring while it is the one in use.
