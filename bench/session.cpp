@@ -11,7 +11,7 @@
 #include "first_paint.h"
 #include "model/proposal.h"
 #include "platform/files.h"
-#include "qt/sheet_view.h"
+#include "sheet/sheet_view.h"
 
 namespace quillane::bench {
 

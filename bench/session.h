@@ -4,8 +4,8 @@
 #include <functional>
 #include <memory>
 
-#include "qt/program.h"
 #include "qt/qt_desk.h"
+#include "windows/program.h"
 
 namespace quillane::bench {
 

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "app/startup.h"
+#include "editing/navigation.h"
 #include "first_paint.h"
 #include "model/page.h"
 #include "print/print.h"

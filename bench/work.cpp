@@ -13,16 +13,17 @@
 #include <memory>
 
 #include "app/startup.h"
+#include "editing/navigation.h"
 #include "files/event_file.h"
 #include "model/focus.h"
 #include "model/proposal.h"
 #include "pages/totals.h"
 #include "print/print.h"
-#include "qt/frame_window.h"
-#include "qt/sheet_view.h"
 #include "qt/text_measure.h"
 #include "samples.h"
 #include "session.h"
+#include "sheet/sheet_view.h"
+#include "windows/frame_window.h"
 
 namespace quillane::bench {
 
@@ -84,11 +85,9 @@ void FillEveryRow() {
   for (int window = 0; window < ItemPages; ++window) {
     Page& sheet = page(window);
     for (int row = sheet.FirstRow(); row <= sheet.LastRow(); ++row) {
-      const auto area = static_cast<size_t>(row);
-      sheet.txt[area].SetText(
+      sheet.txt[row].SetText(
           QStringLiteral("Item %1 of page %2 with a line of words").arg(row).arg(window + 1));
-      sheet.txt[area + static_cast<size_t>(sheet.AmountOffset())].SetText(
-          QStringLiteral("%1.25").arg(100 + row));
+      sheet.txt[row + sheet.AmountOffset()].SetText(QStringLiteral("%1.25").arg(100 + row));
     }
   }
   CalculateAllPages();
@@ -119,7 +118,7 @@ void MeasureTyping(int times, BareWindow& bare, const PaintCounter& paints) {
   UpdatePageButtons(1);
   constexpr int LettersOfARow = 40;
   for (int i = 0; i < times * LettersOfARow; ++i) {
-    Control& area = page(1).txt[static_cast<size_t>(i / LettersOfARow % 34)];
+    Control& area = page(1).txt[i / LettersOfARow % 34];
     if (i % LettersOfARow == 0) {
       area.SetText(QString());
       SetFocus(area);
@@ -153,9 +152,8 @@ void ReplaceByHand(const QString& folder, const QByteArray& bytes) {
   const QByteArray name = QFile::encodeName(folder + QStringLiteral("by hand"));
   const int file = open(beside.constData(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
   const int directory = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
-  if (file < 0 || directory < 0 ||
-      write(file, bytes.constData(), static_cast<size_t>(bytes.size())) != bytes.size() || fsync(file) != 0 ||
-      rename(beside.constData(), name.constData()) != 0 || fsync(directory) != 0)
+  if (file < 0 || directory < 0 || write(file, bytes.constData(), bytes.size()) != bytes.size() ||
+      fsync(file) != 0 || rename(beside.constData(), name.constData()) != 0 || fsync(directory) != 0)
     qFatal("cannot write in %s", qPrintable(folder));
   close(file);
   close(directory);

@@ -2,7 +2,7 @@
 
 #include <QHash>
 
-#include "app/startup.h"
+#include "editing/navigation.h"
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/report.h"
@@ -61,14 +61,13 @@ bool CommandExists(const QString& name) {
   return command && command->run;
 }
 
-void EnableEntry(const QString& name, bool enabled) {
-  frame()[name].SetEnabled(enabled && CommandExists(name));
-}
-
 void BuildMenus() {
   for (const Command& command : Commands()) {
     if (!*command.name) continue;
-    Control& entry = frame().AddMenu(QString::fromLatin1(command.name), QString::fromLatin1(command.caption));
+    const auto kind =
+        command.run || command.isMenu ? Frame::Entry::WithCommand : Frame::Entry::WithoutCommand;
+    Control& entry =
+        frame().AddMenu(QString::fromLatin1(command.name), QString::fromLatin1(command.caption), kind);
     entry.SetVisible(command.visible);
     entry.SetEnabled(command.enabled);
     entry.SetChecked(command.checked);

@@ -22,8 +22,6 @@ const std::vector<Command>& Commands();
 void BuildMenus();
 /// True for an entry whose command is part of the program.
 bool CommandExists(const QString& name);
-/// Enables or disables an entry by a rule; one whose command is not part of the program stays disabled.
-void EnableEntry(const QString& name, bool enabled);
 /// Runs an entry's procedure, if it is enabled.  Errors are caught here, once for each command.
 void RunCommand(const QString& name);
 /// A click on a tool bar image or button of the frame.

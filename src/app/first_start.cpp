@@ -3,12 +3,12 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "app/preferences.h"
 #include "app/small_commands.h"
 #include "app/startup.h"
 #include "model/proposal.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
+#include "settings/preferences.h"
 #include "ui/desk.h"
 #include "ui/font_twins.h"
 

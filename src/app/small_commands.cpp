@@ -135,7 +135,7 @@ void LogonCommand() {
 
 void TestStringsCommand() {
   for (const int index : {3, 4}) {
-    const QString saved = proposal.SavedText[static_cast<size_t>(index)][3];
+    const QString saved = proposal.SavedText[index][3];
     Tell(page(index).txt[3].Text() + QStringLiteral(" Text Area = ") + saved);
   }
 }

@@ -13,14 +13,6 @@ bool Main();
 /// The twenty steps of the main window's load; once a run.
 void LoadMainFrame();
 void QuitApplication();
-/// Brings page 0 to 6 to the front.
-void UpdatePageButtons(int window);
-/// Fits the sheet and VScroll1 to the frame.
-void ReAdjustScrollBar(int window);
-/// The frame has been resized to `clientHeight` twips.
-void FrameResized(float clientHeight);
-/// VScroll1 has a new value; false when the change is to be ignored once.
-bool ScrollChanged(int value);
 /// True when a screen font of that name exists or one of the same metrics stands in for it.
 bool FontInstalled(const QString& name);
 /// The close box and mnuFileExit: asks about unsaved changes.  True when the program may end.

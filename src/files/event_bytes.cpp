@@ -24,7 +24,7 @@ struct OlderLength {
 constexpr OlderLength OlderLengths[] = {{17880, 10, 120}, {17170, 10, 100}, {17770, 20, 100}};
 
 int WidthOf(int pageIndex, int area) {
-  return AreaLimit(page(pageIndex).txt[static_cast<size_t>(area)]);
+  return AreaLimit(page(pageIndex).txt[area]);
 }
 
 int WidthInFile(int width, qsizetype fileLength) {
@@ -57,7 +57,7 @@ QByteArray EventFileBytes(const PageTexts& texts, const std::function<bool(int, 
   for (int p = 0; p < IndexedPages; ++p) {
     for (int i = 0; i < AreaCount(p); ++i) {
       const int width = WidthOf(p, i);
-      const QString& text = texts[static_cast<size_t>(p)][static_cast<size_t>(i)];
+      const QString& text = texts[p][i];
       bytes.replace(position, BufferLength, FieldBuffer(text, width, p < ItemPages && exempt(p, i)));
       position += width;
     }
@@ -66,16 +66,14 @@ QByteArray EventFileBytes(const PageTexts& texts, const std::function<bool(int, 
 }
 
 QByteArray EventFileBytes() {
-  return EventFileBytes(proposal.PageText, [](int p, int i) {
-    return proposal.TextRec[static_cast<size_t>(p)][static_cast<size_t>(i)].TaxExempt;
-  });
+  return EventFileBytes(proposal.PageText, [](int p, int i) { return proposal.TextRec[p][i].TaxExempt; });
 }
 
 EventFields ReadEventFields(const QByteArray& bytes) {
   EventFields fields;
   qsizetype position = 0;
   for (int p = 0; p < IndexedPages; ++p) {
-    std::vector<QString>& texts = fields.text.emplace_back();
+    Array<QString>& texts = fields.text[p];
     for (int i = 0; i < AreaCount(p); ++i) {
       const int width = WidthInFile(WidthOf(p, i), bytes.size());
       texts.push_back(FromCodePage(FieldBytes(bytes, position, width, p < ItemPages)));

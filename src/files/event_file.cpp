@@ -3,15 +3,15 @@
 
 #include <QFileInfo>
 
+#include "editing/navigation.h"
+#include "editing/totals_commands.h"
+#include "files/changes.h"
 #include "files/property_file.h"
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/report.h"
-#include "model/upcalls.h"
-#include "pages/changes.h"
 #include "pages/features.h"
 #include "pages/titles.h"
-#include "pages/totals.h"
 #include "platform/codepage.h"
 #include "platform/dates.h"
 #include "platform/files.h"
@@ -135,10 +135,8 @@ bool SaveUnderNewName(const QString& baseName) {
 QByteArray BytesAsTheyStand() {
   PageTexts texts = proposal.PageText;
   for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i)
-      texts[static_cast<size_t>(p)][static_cast<size_t>(i)] = StoredForm(page(p), i);
-  return EventFileBytes(texts,
-                        [](int p, int i) { return !page(p).imgNoTax[static_cast<size_t>(i)].Hidden(); });
+    for (int i = 0; i < AreaCount(p); ++i) texts[p][i] = StoredForm(page(p), i);
+  return EventFileBytes(texts, [](int p, int i) { return !page(p).imgNoTax[i].Hidden(); });
 }
 
 // While an unnamed proposal's name is being typed every twentieth key would leave a file of half a name.
@@ -180,7 +178,7 @@ bool MayReplace(const QString& fileName) {
 }
 
 void ShowClientName() {
-  upcalls().UpdatePageButtons(0);
+  UpdatePageButtons(0);
   SetFocus(page(0).txt[2]);
 }
 

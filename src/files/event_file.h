@@ -46,7 +46,7 @@ QByteArray EventFileBytes(const PageTexts& texts, const std::function<bool(int, 
 /// The fields of a file: one text a page index and area, cut at their widths by the file's length, blanks not
 /// trimmed.
 struct EventFields {
-  std::vector<std::vector<QString>> text;
+  PageTexts text;
 };
 EventFields ReadEventFields(const QByteArray& bytes);
 

@@ -1,11 +1,11 @@
 // Opening: the file's fields go onto blank pages, then the sums are worked out anew.
+#include "editing/navigation.h"
 #include "files/event_file.h"
 #include "files/format_file.h"
 #include "files/new_proposal.h"
 #include "files/property_file.h"
 #include "model/frame.h"
 #include "model/report.h"
-#include "model/upcalls.h"
 #include "pages/defaults.h"
 #include "pages/features.h"
 #include "pages/titles.h"
@@ -19,7 +19,7 @@ namespace quillane {
 namespace {
 
 constexpr QChar ExemptSign(0xD8);
-constexpr size_t DepositArea = 4;
+constexpr int DepositArea = 4;
 
 // Blanks only: a stored text may begin or end with any other character, a hard blank included.
 QString WithoutTrailingBlanks(QString text) {
@@ -45,64 +45,59 @@ std::optional<float> ValueOf(const QString& text) {
 }
 
 void FillColumns(Page& target, int row, const ColumnTexts& parts) {
-  const auto i = static_cast<size_t>(row);
   LoadColumns(target);
   ShowRowColumns(target, row, true);
-  target.txtQty[i].SetText(parts.quantity);
-  target.txtAmt[i].SetText(parts.each);
-  target.txt[i].SetText(parts.description);
-  TextAreaRecord& record = proposal.TextRec[static_cast<size_t>(target.pageIndex)][i];
+  target.txtQty[row].SetText(parts.quantity);
+  target.txtAmt[row].SetText(parts.each);
+  target.txt[row].SetText(parts.description);
+  TextAreaRecord& record = proposal.TextRec[target.pageIndex][row];
   record.QtyBox = true;
   record.QtyValue = parts.quantity;
   record.AmtValue = parts.each;
 }
 
 void FillText(Page& target, int area, const QString& field) {
-  const auto p = static_cast<size_t>(target.pageIndex);
-  const auto i = static_cast<size_t>(area);
-  if (format.FormatTextRec[p][i].HasFormatText) return;  // the format's text stays
+  if (format.FormatTextRec[target.pageIndex][area].HasFormatText) return;  // the format's text stays
   const QString text = WithoutTrailingBlanks(field);
-  proposal.PageText[p][i] = proposal.SavedText[p][i] = text;
+  proposal.PageText[target.pageIndex][area] = proposal.SavedText[target.pageIndex][area] = text;
   const std::optional<ColumnTexts> parts = target.IsRow(area) ? SplitColumns(text) : std::nullopt;
   if (parts) return FillColumns(target, area, *parts);
   if (text.isEmpty()) return;
   // A format may have given the row columns; the proposal's own text says that it has none.
   if (target.IsRow(area) && target.HasColumns(area)) ShowRowColumns(target, area, false);
-  target.txt[i].SetText(text);
+  target.txt[area].SetText(text);
 }
 
 void FillAmount(Page& target, int area, const QString& field) {
-  const auto p = static_cast<size_t>(target.pageIndex);
-  const auto i = static_cast<size_t>(area);
   QString text = WithoutBlanks(field);
   if (text.isEmpty()) return;
   const bool exempt = text.startsWith(ExemptSign);
   if (exempt) {
     text = WithoutBlanks(text.mid(1));
-    proposal.PageText[p][i] = proposal.SavedText[p][i] = text;
-    target.txt[i].SetText(text);
+    proposal.PageText[target.pageIndex][area] = proposal.SavedText[target.pageIndex][area] = text;
+    target.txt[area].SetText(text);
   }
   // Also where a format has set the mark: the amount and its tax are the proposal's own.
-  proposal.TextRec[p][i].TaxExempt = exempt;
-  target.imgNoTax[i].SetShown(exempt);
+  proposal.TextRec[target.pageIndex][area].TaxExempt = exempt;
+  target.imgNoTax[area].SetShown(exempt);
   const std::optional<float> value = ValueOf(text);
   if (!value) return;
-  proposal.AreaAmount[p][i] = *value;
-  proposal.AreaTaxable[p][i] = exempt ? 0 : *value;
+  proposal.AreaAmount[target.pageIndex][area] = *value;
+  proposal.AreaTaxable[target.pageIndex][area] = exempt ? 0 : *value;
   target.CurrencyLabel(area).SetShown(true);
 }
 
-void FillItemPage(Page& target, const std::vector<QString>& fields) {
-  for (int i = 0; i < static_cast<int>(fields.size()); ++i) {
-    const QString& field = fields[static_cast<size_t>(i)];
+void FillItemPage(Page& target, const Array<QString>& fields) {
+  for (int i = 0; i < fields.size(); ++i) {
+    const QString& field = fields[i];
     FillText(target, i, field);
     if (target.IsAmount(i)) FillAmount(target, i, field);
   }
 }
 
 // Nothing is taken from the totals page but the deposit; the other five are worked out anew.
-void TakeDeposit(const std::vector<QString>& fields) {
-  for (size_t i = 0; i < fields.size(); ++i)
+void TakeDeposit(const Array<QString>& fields) {
+  for (int i = 0; i < fields.size(); ++i)
     proposal.PageText[5][i] = proposal.SavedText[5][i] = WithoutBlanks(fields[i]);
   const QString& deposit = proposal.PageText[5][DepositArea];
   const std::optional<float> value = deposit.isEmpty() ? 0.0F : ValueOf(deposit);
@@ -118,7 +113,7 @@ void ShowTotals() {
   Guarded("CalculateMyTotals", CalculateAllPages);
   page(5).txt[DepositArea].SetText(FormatNumber(proposal.DepositReceived, patterns::Money));
   RecalculateTotals(0);
-  for (size_t i = 0; i < page(5).txt.size(); ++i) {
+  for (int i = 0; i < page(5).txt.size(); ++i) {
     const QString& text = page(5).txt[i].Text();
     page(CopyOfPage6).txt[i].SetText(text);
     proposal.PageText[5][i] = proposal.SavedText[5][i] = text;
@@ -127,7 +122,7 @@ void ShowTotals() {
 
 void FillPages(const EventFields& fields) {
   const Scoped opening(editing.OpeningFile, true);
-  for (int p = 0; p < ItemPages; ++p) FillItemPage(page(p), fields.text[static_cast<size_t>(p)]);
+  for (int p = 0; p < ItemPages; ++p) FillItemPage(page(p), fields.text[p]);
   TakeDeposit(fields.text[5]);
   ShowTotals();
 }
@@ -157,8 +152,8 @@ void ShowFileNames() {
 void TakeStoredForms() {
   for (int p = 0; p < ItemPages; ++p)
     for (int i = 0; i < AreaCount(p); ++i) {
-      QString& stored = proposal.PageText[static_cast<size_t>(p)][static_cast<size_t>(i)];
-      stored = proposal.SavedText[static_cast<size_t>(p)][static_cast<size_t>(i)] = StoredForm(page(p), i);
+      QString& stored = proposal.PageText[p][i];
+      stored = proposal.SavedText[p][i] = StoredForm(page(p), i);
     }
 }
 
@@ -174,8 +169,7 @@ bool OpenInto(const QString& folder, const QString& name) {
   format.FormatLines = FormatLinesNow();
   FindHighestPage();
   UpdatePageNumbers();
-  if (prefs.ShowFUT && !terms.FileName.isEmpty()) upcalls().ReadTerms();
-  upcalls().UpdatePageButtons(0);
+  UpdatePageButtons(0);
   return true;
 }
 

@@ -4,15 +4,14 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "editing/totals_commands.h"
 #include "files/event_file.h"
-#include "files/small_files.h"
 #include "model/report.h"
-#include "model/upcalls.h"
 #include "pages/features.h"
 #include "pages/titles.h"
-#include "pages/totals.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
+#include "settings/tax_rate.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -99,7 +98,7 @@ void CopyProposalToClipboard() {
 }
 
 void SaveAsWordDoc() {
-  const QByteArray document = upcalls().WordDocument(proposal.Title, ProposalReport());
+  const QByteArray document = desk().WordDocument(proposal.Title, ProposalReport());
   const QString path = NewTemporaryFolder() + SafeFileName(proposal.BaseName) + QStringLiteral(".odt");
   ReplaceFile(path, document);
   if (desk().OpenExternally(path)) return;

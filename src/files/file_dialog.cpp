@@ -8,10 +8,10 @@
 #include "files/format_file.h"
 #include "files/logo.h"
 #include "files/new_proposal.h"
-#include "files/small_files.h"
 #include "model/proposal.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
+#include "settings/tax_rate.h"
 #include "ui/desk.h"
 
 namespace quillane {

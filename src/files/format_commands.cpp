@@ -1,14 +1,14 @@
 #include "files/format_commands.h"
 
+#include "editing/totals_commands.h"
+#include "files/changes.h"
 #include "files/file_dialog.h"
 #include "files/format_file.h"
 #include "files/new_proposal.h"
 #include "model/proposal.h"
 #include "model/report.h"
-#include "model/upcalls.h"
-#include "pages/changes.h"
-#include "pages/totals.h"
 #include "platform/files.h"
+#include "settings/preferences.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -69,7 +69,7 @@ void DeleteFormatCommand() {
   const bool wasDefault = IsDefault(path);
   if (!Guarded("mnuFileFormatDelete", [&] { RemoveFileIfThere(path); })) return;
   // Every start would report that the default is not there.
-  if (wasDefault) upcalls().StorePreference(QStringLiteral("Load Default Format:"), QStringLiteral("False"));
+  if (wasDefault) StorePreference(QStringLiteral("Load Default Format:"), QStringLiteral("False"));
   StartWithoutFormat();
 }
 
@@ -77,7 +77,7 @@ void DefaultFormatCommand() {
   const Scoped asDefault(format.FormatAsDefault, true);
   if (!SaveFileFormat()) return;
   format.DefaultSetAside = false;
-  upcalls().StorePreference(QStringLiteral("Load Default Format:"), QStringLiteral("True"));
+  StorePreference(QStringLiteral("Load Default Format:"), QStringLiteral("True"));
 }
 
 }  // namespace quillane

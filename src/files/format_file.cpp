@@ -1,18 +1,18 @@
 // Writing: what of the pages a format holds, and under which name.
 #include "files/format_file.h"
 
+#include "editing/totals_commands.h"
+#include "files/changes.h"
 #include "files/event_file.h"
 #include "files/property_apply.h"
 #include "files/property_file.h"
 #include "model/frame.h"
 #include "model/report.h"
-#include "model/upcalls.h"
-#include "pages/changes.h"
 #include "pages/features.h"
 #include "pages/labels.h"
-#include "pages/totals.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
+#include "settings/preferences.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -22,10 +22,10 @@ namespace {
 const QString Extension = QStringLiteral(".wft");
 
 TextAreaRecord& FormatTextOf(int p, int i) {
-  return format.FormatTextRec[static_cast<size_t>(p)][static_cast<size_t>(i)];
+  return format.FormatTextRec[p][i];
 }
 LabelRecord& FormatLabelOf(int p, int n) {
-  return format.FormatLabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)];
+  return format.FormatLabelRec[p][n];
 }
 
 // An amount belongs to one proposal, so it is never part of a format.
@@ -36,27 +36,25 @@ QString FixedText(const Control& area) {
 // A label that the proposal's own property file has changed looks changed on the page, and a format made from
 // that page has to look the same.
 bool LabelCounts(int p, int n) {
-  return FormatLabelOf(p, n).Changed ||
-         proposal.LabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)].Changed;
+  return FormatLabelOf(p, n).Changed || proposal.LabelRec[p][n].Changed;
 }
 
 void AddTexts(QStringList& lines) {
   for (int p = 0; p < ItemPages; ++p)
     for (int i = 0; i < AreaCount(p); ++i) {
-      const Control& area = page(p).txt[static_cast<size_t>(i)];
+      const Control& area = page(p).txt[i];
       const QString text = FixedText(area);
       if (area.GetFont().bold) lines << BoldLine(p, i);
       if (!text.isEmpty()) lines << TextLine(p, i, text);
-      if (!page(p).imgNoTax[static_cast<size_t>(i)].Hidden()) lines << ExemptLine(p, i);
+      if (!page(p).imgNoTax[i].Hidden()) lines << ExemptLine(p, i);
     }
 }
 
 void AddColumns(QStringList& lines) {
   for (int p = 0; p < ItemPages; ++p)
     for (int row = page(p).FirstRow(); row <= page(p).LastRow(); ++row) {
-      const auto i = static_cast<size_t>(row);
       if (page(p).HasColumns(row))
-        lines << ColumnsLine(p, row, page(p).txtQty[i].Text(), page(p).txtAmt[i].Text());
+        lines << ColumnsLine(p, row, page(p).txtQty[row].Text(), page(p).txtAmt[row].Text());
     }
 }
 
@@ -103,16 +101,14 @@ QString ChooseName() {
 
 void TakeFormatTexts() {
   for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i)
-      FormatTextOf(p, i).Text = FixedText(page(p).txt[static_cast<size_t>(i)]);
+    for (int i = 0; i < AreaCount(p); ++i) FormatTextOf(p, i).Text = FixedText(page(p).txt[i]);
 }
 
 bool HoldsAnything() {
   for (int p = 0; p < ItemPages; ++p)
     for (int i = 0; i < AreaCount(p); ++i) {
       const TextAreaRecord& record = FormatTextOf(p, i);
-      if (record.FontBold || record.QtyWritten || !FixedText(page(p).txt[static_cast<size_t>(i)]).isEmpty())
-        return true;
+      if (record.FontBold || record.QtyWritten || !FixedText(page(p).txt[i]).isEmpty()) return true;
     }
   for (int p = 0; p < IndexedPages; ++p)
     for (const Control& label : page(p).lbl)
@@ -139,17 +135,15 @@ void MarkHeldBySavedFormat(Work work) {
   }
   for (int p = 0; p < ItemPages; ++p)
     for (int i = 0; i < AreaCount(p); ++i) {
-      if (IsNumericArea(page(p).txt[static_cast<size_t>(i)])) continue;
-      const auto area = static_cast<size_t>(i);
-      proposal.SavedText[static_cast<size_t>(p)][area] = proposal.PageText[static_cast<size_t>(p)][area];
+      if (IsNumericArea(page(p).txt[i])) continue;
+      proposal.SavedText[p][i] = proposal.PageText[p][i];
     }
   AssignPropChanges();
   proposal.SavedPropertyLines = PropertyLinesNow();
 }
 
 bool StoreAsDefault() {
-  return upcalls().StorePreference(QStringLiteral("Default File Format:"),
-                                   format.FormatFolder + format.FormatName);
+  return StorePreference(QStringLiteral("Default File Format:"), format.FormatFolder + format.FormatName);
 }
 
 // A format of nothing but a font has nothing to write a second time, and can be the default all the same.
@@ -202,8 +196,8 @@ void AssignFormatPropChanges() {
 
 bool FormatChanged() {
   if (format.LogoChanged) return true;
-  for (size_t p = 0; p < ItemPages; ++p)
-    for (size_t i = 0; i < AreasPerPage; ++i)
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreasPerPage; ++i)
       format.FormatTextRec[p][i].FontBold = proposal.TextRec[p][i].FontBold;
   return HoldsAnything() || FormatLinesNow() != format.FormatLines;
 }

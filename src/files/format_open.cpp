@@ -16,22 +16,19 @@ namespace quillane {
 
 namespace {
 
-constexpr size_t TitleLabel = 45;
+constexpr int TitleLabel = 45;
 const QString ClientTitle = QStringLiteral("Proposal for ");
 
 // One area or row in both tables, since the page now shows what the format says.
 template <class Change>
 void InBothTables(const Page& target, int area, Change&& change) {
-  const auto p = static_cast<size_t>(target.pageIndex);
-  const auto i = static_cast<size_t>(area);
-  change(proposal.TextRec[p][i]);
-  change(format.FormatTextRec[p][i]);
+  change(proposal.TextRec[target.pageIndex][area]);
+  change(format.FormatTextRec[target.pageIndex][area]);
 }
 
 void ApplyFixedText(Page& target, Control& area, const QString& text) {
   area.SetText(text);
-  TextAreaRecord& record =
-      format.FormatTextRec[static_cast<size_t>(target.pageIndex)][static_cast<size_t>(area.Index())];
+  TextAreaRecord& record = format.FormatTextRec[target.pageIndex][area.Index()];
   record.Text = text;
   record.HasFormatText = !editing.DoNotLockFormat;
 }
@@ -83,12 +80,10 @@ void TakeTitle(const QString& caption) {
 
 void ApplyLabel(Page& target, const PropertyLine& line) {
   LabelRecord record = ApplyLabelLine(target, line);
-  const auto p = static_cast<size_t>(target.pageIndex);
-  const auto n = static_cast<size_t>(line.index);
-  proposal.LabelBackup[p][n] = record;
+  proposal.LabelBackup[target.pageIndex][line.index] = record;
   record.Changed = record.Written = true;
-  format.FormatLabelRec[p][n] = record;
-  if (p == 0 && n == TitleLabel) TakeTitle(record.Caption);
+  format.FormatLabelRec[target.pageIndex][line.index] = record;
+  if (target.pageIndex == 0 && line.index == TitleLabel) TakeTitle(record.Caption);
 }
 
 QString LogoPathFrom(const QString& stored) {
@@ -136,8 +131,7 @@ void ApplyLine(Page& target, const PropertyLine& line) {
 void EmptyFixedAreas() {
   for (int p = 0; p < ItemPages; ++p)
     for (Control& area : page(p).txt) {
-      const auto i = static_cast<size_t>(area.Index());
-      if (!format.FormatTextRec[static_cast<size_t>(p)][i].HasFormatText) continue;
+      if (!format.FormatTextRec[p][area.Index()].HasFormatText) continue;
       area.SetText(QString());
       area.SetFontBold(false);
     }
@@ -156,9 +150,8 @@ void EmptyFormat() {
 void TakeStoredForms() {
   for (int p = 0; p < ItemPages; ++p)
     for (int i = 0; i < AreaCount(p); ++i) {
-      const auto area = static_cast<size_t>(i);
-      proposal.PageText[static_cast<size_t>(p)][area] = StoredForm(page(p), i);
-      proposal.SavedText[static_cast<size_t>(p)][area] = proposal.PageText[static_cast<size_t>(p)][area];
+      proposal.PageText[p][i] = StoredForm(page(p), i);
+      proposal.SavedText[p][i] = proposal.PageText[p][i];
     }
 }
 
@@ -207,8 +200,7 @@ void ParseFormatFile() {
 void ApplyFormatBold() {
   for (int p = 0; p < ItemPages; ++p)
     for (Control& area : page(p).txt)
-      if (format.FormatTextRec[static_cast<size_t>(p)][static_cast<size_t>(area.Index())].FontBold)
-        area.SetFontBold(true);
+      if (format.FormatTextRec[p][area.Index()].FontBold) area.SetFontBold(true);
 }
 
 void ForgetFormat() {

@@ -6,11 +6,11 @@
 #include "files/new_proposal.h"
 #include "model/frame.h"
 #include "model/proposal.h"
-#include "model/upcalls.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
+#include "settings/preferences.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -138,16 +138,15 @@ void SaveLogoAsDefault() {
     format.LogoChanged = true;
   }
   TakePlace();
-  upcalls().StorePreferences({{QStringLiteral("Logo File:"), path},
-                              {QStringLiteral("Logo Left:"), SingleText(pic.Left())},
-                              {QStringLiteral("Logo Top:"), SingleText(pic.Top())}});
+  StorePreferences({{QStringLiteral("Logo File:"), path},
+                    {QStringLiteral("Logo Left:"), SingleText(pic.Left())},
+                    {QStringLiteral("Logo Top:"), SingleText(pic.Top())}});
 }
 
 void ToggleLogoVisible() {
   if (!HasLogo()) return;
   const bool shown = !page(0).pic[0].Hidden();
-  upcalls().StorePreference(QStringLiteral("Logo Visible:"),
-                            shown ? QStringLiteral("False") : QStringLiteral("True"));
+  StorePreference(QStringLiteral("Logo Visible:"), shown ? QStringLiteral("False") : QStringLiteral("True"));
   ShowPicture(page(0).pic[0].GetPicture());  // by the setting as the file has it now
 }
 

@@ -1,18 +1,19 @@
 #include "files/new_proposal.h"
 
+#include "editing/areas.h"
+#include "editing/navigation.h"
+#include "editing/selection.h"
+#include "editing/totals_commands.h"
+#include "files/changes.h"
 #include "files/event_file.h"
 #include "files/format_file.h"
 #include "files/property_file.h"
 #include "model/frame.h"
 #include "model/report.h"
 #include "model/selection.h"
-#include "model/upcalls.h"
-#include "pages/changes.h"
 #include "pages/defaults.h"
 #include "pages/labels.h"
-#include "pages/selection.h"
 #include "pages/titles.h"
-#include "pages/totals.h"
 #include "platform/files.h"
 #include "ui/desk.h"
 
@@ -86,8 +87,7 @@ void TakeUserFont() {
 }
 
 bool FormatFills(int pageIndex, int area) {
-  return pageIndex < ItemPages &&
-         format.FormatTextRec[static_cast<size_t>(pageIndex)][static_cast<size_t>(area)].HasFormatText;
+  return pageIndex < ItemPages && format.FormatTextRec[pageIndex][area].HasFormatText;
 }
 
 void Rest(Control& box, Color resting) {
@@ -99,9 +99,8 @@ void BlankAreas(Page& target) {
     Rest(area, colors::Grey);
     if (FormatFills(target.pageIndex, area.Index())) continue;
     if (target.window != CopyOfPage6) {
-      const auto p = static_cast<size_t>(target.pageIndex);
-      const auto i = static_cast<size_t>(area.Index());
-      proposal.PageText[p][i] = proposal.SavedText[p][i] = BlankSlot();
+      proposal.PageText[target.pageIndex][area.Index()] = proposal.SavedText[target.pageIndex][area.Index()] =
+          BlankSlot();
     }
     area.SetText(QString());
     area.SetFontBold(false);
@@ -156,11 +155,6 @@ void RebuildColumns() {
   for (int window = 0; window < ItemPages; ++window) LoadColumns(page(window));
 }
 
-void TakeTermsFile(const QString& name) {
-  terms.FileName = name;
-  if (prefs.ShowFUT) upcalls().ReadTerms();
-}
-
 void ShowWeddingWords() {
   proposal.SubTitle = DefaultSubTitle(QStringLiteral("Wedding"));
   Control& date = page(0).lbl[9];
@@ -191,7 +185,7 @@ bool StartNewFile() {
     BlankPages();
     TakeDefaultFormat(loadFormat);
     Step([] {
-      if (format.FormatIsOpen) upcalls().OpenFormat();
+      if (format.FormatIsOpen) OpenFormatFile();
     });
     Step(LoadLogo);
   }
@@ -201,9 +195,9 @@ bool StartNewFile() {
   });
   proposal.SavedPropertyLines = PropertyLinesNow();
   format.FormatLines = FormatLinesNow();
-  Step([] { upcalls().UpdatePageButtons(0); });
+  Step([] { UpdatePageButtons(0); });
   Step(RebuildColumns);
-  upcalls().SetEditMenuState(QStringLiteral("NothingSelected"));
+  SetEditMenuState();
   return true;
 }
 
@@ -228,7 +222,7 @@ bool MayLeaveProposal() {
 void NewEventCommand() {
   if (!MayLeaveProposal() || !StartNewFile()) return;
   if (!DefaultFormatApplies() && !format.FormatIsOpen && !terms.FileLoaded)
-    TakeTermsFile(QStringLiteral("Event Terms.fut"));
+    terms.FileName = QStringLiteral("Event Terms.fut");
 }
 
 void NewWeddingCommand() {
@@ -236,7 +230,7 @@ void NewWeddingCommand() {
   proposal.Mode = QStringLiteral("Wedding");
   if (!StartNewFile()) return;
   if (!DefaultFormatApplies()) ShowWeddingWords();
-  if (!terms.FileLoaded) TakeTermsFile(QStringLiteral("Wedding Terms.fut"));
+  if (!terms.FileLoaded) terms.FileName = QStringLiteral("Wedding Terms.fut");
 }
 
 }  // namespace quillane

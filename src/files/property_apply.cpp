@@ -6,10 +6,10 @@
 
 namespace quillane {
 
-Control& ControlOfLine(std::vector<Control>& array, int index) {
+Control& ControlOfLine(Array<Control>& array, int index) {
   if (index < 0 || index >= static_cast<int>(array.size()))
     Raise(errors::Subscript, QStringLiteral("a property line names number %1").arg(index));
-  return array[static_cast<size_t>(index)];
+  return array[index];
 }
 
 LabelRecord ApplyLabelLine(Page& target, const PropertyLine& line) {
@@ -36,8 +36,8 @@ void ApplyFontLine(const PropertyLine& line) {
 }
 
 void ShowColumnPrompts(Page& target, int row) {
-  Control& quantity = target.txtQty[static_cast<size_t>(row)];
-  Control& each = target.txtAmt[static_cast<size_t>(row)];
+  Control& quantity = target.txtQty[row];
+  Control& each = target.txtAmt[row];
   if (quantity.Text().isEmpty()) quantity.SetText(QStringLiteral("Qty."));
   if (each.Text().isEmpty()) each.SetText(QStringLiteral("Amt."));
 }

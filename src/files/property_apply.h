@@ -5,7 +5,7 @@
 namespace quillane {
 
 /// The control of an array that a line names.  Throws 9 for an index beyond the array.
-Control& ControlOfLine(std::vector<Control>& array, int index);
+Control& ControlOfLine(Array<Control>& array, int index);
 
 /// Gives a label the values that a line states, on page 6 its copy as well, and returns what it then has.
 /// FontItalic and FontUnderline stay the label's own where an older, shorter line leaves them out.

@@ -18,10 +18,10 @@ namespace {
 constexpr QLatin1String TitleLine("frmP1.lbl(45)");
 
 LabelRecord& LabelRecOf(int p, int n) {
-  return proposal.LabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)];
+  return proposal.LabelRec[p][n];
 }
 TextAreaRecord& TextRecOf(int p, int n) {
-  return proposal.TextRec[static_cast<size_t>(p)][static_cast<size_t>(n)];
+  return proposal.TextRec[p][n];
 }
 
 using AreaTest = std::function<bool(int page, int area)>;
@@ -54,9 +54,8 @@ void ApplyText(Page& target, const PropertyLine& line) {
 // it.  A stored text that lost a sign to the field's width is plain text, and columns around it would lose
 // the rest.
 bool RowFollowsLine(int pageIndex, int row, bool columns) {
-  if (format.FormatTextRec[static_cast<size_t>(pageIndex)][static_cast<size_t>(row)].HasFormatText)
-    return true;
-  const QString& stored = proposal.PageText[static_cast<size_t>(pageIndex)][static_cast<size_t>(row)];
+  if (format.FormatTextRec[pageIndex][row].HasFormatText) return true;
+  const QString& stored = proposal.PageText[pageIndex][row];
   return columns ? !HasStrayMark(stored) : !SplitColumns(stored);
 }
 
@@ -74,7 +73,7 @@ void ApplyColumns(Page& target, const PropertyLine& line) {
 
 void ApplyLabel(Page& target, const PropertyLine& line) {
   LabelRecord record = ApplyLabelLine(target, line);
-  proposal.LabelBackup[static_cast<size_t>(target.pageIndex)][static_cast<size_t>(line.index)] = record;
+  proposal.LabelBackup[target.pageIndex][line.index] = record;
   record.Changed = record.Written = true;
   LabelRecOf(target.pageIndex, line.index) = record;
 }
@@ -128,7 +127,7 @@ void AssignPropChanges() {
 
 QStringList PropertyLinesNow() {
   return BuildLines(
-      [](int p, int i) { return page(p).txt[static_cast<size_t>(i)].GetFont().bold; },
+      [](int p, int i) { return page(p).txt[i].GetFont().bold; },
       [](int p, int i) { return page(p).columnsLoaded && page(p).IsRow(i) && page(p).HasColumns(i); });
 }
 

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "pages/user_font.h"
+#include "editing/user_font.h"
 
 namespace quillane {
 

@@ -30,7 +30,7 @@ QString Money(const QString& amount) {
 
 /// One datum of page 1: the label that names it, the field that holds it, the tabs between.
 struct Datum {
-  size_t label, field;
+  int label, field;
   int tabs;
   const char* behindCaption = "";
 };
@@ -69,15 +69,14 @@ QString RowWithColumns(const QString& text, const QString& quantity, const QStri
 }
 
 QString Item(const Page& items, int row) {
-  const auto i = static_cast<size_t>(row);
-  const Control& area = items.txt[i];
-  const Control* quantity = i < items.txtQty.size() ? &items.txtQty[i] : nullptr;
+  const Control& area = items.txt[row];
+  const Control* quantity = row < items.txtQty.size() ? &items.txtQty[row] : nullptr;
   const bool plain = !quantity || quantity->Hidden() || quantity->Text() == QLatin1String("Qty.");
   const QString text = area.Text().trimmed();
-  QString item =
-      plain ? PlainRow(area, text)
-            : RowWithColumns(text, quantity->Text().trimmed(), Typed(items.txtAmt[i], QLatin1String("Amt.")));
-  const QString amount = items.txt[static_cast<size_t>(row + items.AmountOffset())].Text().trimmed();
+  QString item = plain ? PlainRow(area, text)
+                       : RowWithColumns(text, quantity->Text().trimmed(),
+                                        Typed(items.txtAmt[row], QLatin1String("Amt.")));
+  const QString amount = items.txt[row + items.AmountOffset()].Text().trimmed();
   if (!amount.isEmpty()) item += Line(QStringLiteral("Subtotal:"), 2, Money(amount)) + LineEnd;
   return item;
 }
@@ -99,15 +98,15 @@ QString Totals() {
   constexpr Figure figures[] = {{"Subtotal:", 2}, {"Taxable Amount:", 2},   {"Sales Tax:", 2},
                                 {"Total:", 3},    {"Deposit Received:", 1}, {"Balance Due:", 2}};
   QString text = Heading("Totals");
-  for (size_t i = 0; i < std::size(figures); ++i)
-    text +=
-        Line(QString::fromLatin1(figures[i].name), figures[i].tabs, Money(page(5).txt[i].Text().trimmed()));
+  int area = 0;
+  for (const Figure& figure : figures)
+    text += Line(QString::fromLatin1(figure.name), figure.tabs, Money(page(5).txt[area++].Text().trimmed()));
   return text + LineEnd + LineEnd;
 }
 
-QString LabelLines(size_t first, size_t last) {
+QString LabelLines(int first, int last) {
   QString text;
-  for (size_t i = first; i <= last; ++i)
+  for (int i = first; i <= last; ++i)
     if (const QString& caption = page(5).lbl[i].Caption(); !caption.isEmpty()) text += caption + LineEnd;
   return text;
 }
@@ -115,7 +114,7 @@ QString LabelLines(size_t first, size_t last) {
 /// Each signature has its space, whether or not a label names it.
 QString Signatures() {
   struct Signature {
-    size_t label;
+    int label;
     int lineEnds;
   };
   constexpr Signature block[] = {{47, 3}, {48, 1}, {49, 3}, {52, 1}, {53, 3},

@@ -66,7 +66,8 @@ Control& Frame::Add(Kind kind, const QString& name, const QString& caption) {
   return added;
 }
 
-Control& Frame::AddMenu(const QString& name, const QString& caption) {
+Control& Frame::AddMenu(const QString& name, const QString& caption, Entry entry) {
+  if (entry == Entry::WithoutCommand) withoutCommand_.insert(name);
   return Add(Kind::Menu, name, caption);
 }
 
@@ -89,11 +90,11 @@ void CreateFrame() {
   TheFrame() = std::make_unique<Frame>();
 }
 
-void EnableMenu(const char* name, bool enabled) {
-  if (Control* entry = frame().Find(QString::fromLatin1(name))) entry->SetEnabled(enabled);
+void EnableMenu(const QString& name, bool enabled) {
+  if (Control* entry = frame().Find(name)) entry->SetEnabled(enabled && frame().HasCommand(name));
 }
-void CheckMenu(const char* name, bool checked) {
-  if (Control* entry = frame().Find(QString::fromLatin1(name))) entry->SetChecked(checked);
+void CheckMenu(const QString& name, bool checked) {
+  if (Control* entry = frame().Find(name)) entry->SetChecked(checked);
 }
 
 void MarkTotalsStale() {

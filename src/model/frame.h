@@ -1,5 +1,6 @@
 // frmMain as plain state: its labels, buttons and images, its menu entries, its scroll bar.
 #pragma once
+#include <QSet>
 #include <functional>
 #include <map>
 #include <memory>
@@ -45,20 +46,24 @@ class Frame {
   /// does not have.
   Control& operator[](const QString& name);
   Control* Find(const QString& name);
-  Control& AddMenu(const QString& name, const QString& caption);
+  /// An entry without a command stays disabled, whatever a rule says of it.
+  enum class Entry { WithCommand, WithoutCommand };
+  Control& AddMenu(const QString& name, const QString& caption, Entry entry = Entry::WithCommand);
+  bool HasCommand(const QString& name) const { return !withoutCommand_.contains(name); }
   const std::map<QString, std::unique_ptr<Control>>& Controls() const { return controls_; }
 
  private:
   Control& Add(Kind kind, const QString& name, const QString& caption);
   std::map<QString, std::unique_ptr<Control>> controls_;
+  QSet<QString> withoutCommand_;
 };
 
 Frame& frame();
 void CreateFrame();
 
 /// The states of a menu entry; a name that the menu bar does not have is passed over, as before it is built.
-void EnableMenu(const char* name, bool enabled);
-void CheckMenu(const char* name, bool checked);
+void EnableMenu(const QString& name, bool enabled);
+void CheckMenu(const QString& name, bool checked);
 
 /// The red of stale totals on cmdReCalc, and its end.
 void MarkTotalsStale();

@@ -56,9 +56,9 @@ AreaPlace PlaceOf(int window, int area) {
   return window <= 4 ? ItemPageArea(area) : TotalsArea(area);
 }
 
-std::vector<Control> MakeArray(Form& form, Kind kind, const char* name, int count) {
-  std::vector<Control> array;
-  array.reserve(static_cast<size_t>(count));
+Array<Control> MakeArray(Form& form, Kind kind, const char* name, int count) {
+  Array<Control> array;
+  array.reserve(count);
   for (int i = 0; i < count; ++i) array.emplace_back(form, kind, QString::fromLatin1(name), i);
   return array;
 }
@@ -109,18 +109,18 @@ Page::Page(int windowIndex) : window(windowIndex), pageIndex(windowIndex == Copy
   tag = form.name + QLatin1Char('.') + QString::number(areas - 1);
 
   for (int i = 0; i < areas; ++i) {
-    Control& area = txt[static_cast<size_t>(i)];
+    Control& area = txt[i];
     PlaceArea(area, PlaceOf(window, i));
     area.SetLocked(window == CopyOfPage6);
   }
-  for (size_t i = 0; i < txtQty.size(); ++i) {
+  for (int i = 0; i < txtQty.size(); ++i) {
     PlaceColumn(txtQty[i], txt[i], 720, 495, true);
     PlaceColumn(txtAmt[i], txt[i], 8325, 975, true);
     PlaceColumn(lblAt[i], txt[i], 7890, 0, false);
     PlaceColumn(lblEach[i], txt[i], 9345, 0, false);
   }
   for (Control& mark : imgNoTax) {
-    const Control& area = txt[static_cast<size_t>(mark.Index())];
+    const Control& area = txt[mark.Index()];
     mark.SetLeft(area.Left() + area.Width() + 60);
     mark.SetTop(area.Top());
     mark.SetWidth(sheet::AreaHeight);
@@ -136,12 +136,12 @@ Page::Page(int windowIndex) : window(windowIndex), pageIndex(windowIndex == Copy
 }
 
 void CreatePages() {
-  for (int i = 0; i < PageCount; ++i) Pages()[static_cast<size_t>(i)] = std::make_unique<Page>(i);
+  for (int i = 0; i < PageCount; ++i) Pages()[i] = std::make_unique<Page>(i);
 }
 
 Page& page(int window) {
   if (!Pages()[0]) CreatePages();
-  return *Pages().at(static_cast<size_t>(window));
+  return *Pages().at(window);
 }
 
 Page* PageOf(const Control& control) {

@@ -1,8 +1,6 @@
 // The seven pages: objects with numbered areas, labels, marks, lines and a logo.
 #pragma once
-#include <array>
-#include <vector>
-
+#include "platform/array.h"
 #include "ui/control.h"
 
 namespace quillane {
@@ -12,6 +10,7 @@ inline constexpr int PageCount = 7;
 inline constexpr int CopyOfPage6 = 6;
 
 namespace sheet {
+inline constexpr float TwipsPerInch = 1440;
 inline constexpr float Width = 12240;   ///< twips
 inline constexpr float Height = 15840;  ///< twips
 inline constexpr float Centre = 6120;
@@ -40,21 +39,21 @@ class Page {
 
   // Control arrays, indexed as their names are.  On pages without columns the four column arrays are empty;
   // on frmP1 their elements 0 to 19 exist and are never shown.
-  std::vector<Control> txt, imgNoTax, lbl, lne, txtQty, txtAmt, lblAt, lblEach;
-  std::vector<Control> pic;        ///< one element on frmP1, none elsewhere
-  std::vector<Control> shpSelect;  ///< one element on pages with a selection
+  Array<Control> txt, imgNoTax, lbl, lne, txtQty, txtAmt, lblAt, lblEach;
+  Array<Control> pic;        ///< one element on frmP1, none elsewhere
+  Array<Control> shpSelect;  ///< one element on pages with a selection
 
   Drag drag;
   bool columnsLoaded = false;
   int lastFocused = 0;  ///< the txt index that takes the focus when the page comes to the front
 
   /// All controls in the page's own order: the order in which they print and are added up.
-  const std::vector<Control*>& Controls() const { return order_; }
+  const Array<Control*>& Controls() const { return order_; }
 
   bool IsItemPage() const { return window <= 4; }
   bool IsTotalsPage() const { return window >= 5; }
-  int LastText() const { return static_cast<int>(txt.size()) - 1; }
-  int LastLabel() const { return static_cast<int>(lbl.size()) - 1; }
+  int LastText() const { return txt.size() - 1; }
+  int LastLabel() const { return lbl.size() - 1; }
   /// The description rows that may have columns: 20 to 27 on frmP1, 0 to 34 on frmP2 to frmP5.
   int FirstRow() const { return window == 0 ? 20 : 0; }
   int LastRow() const { return window == 0 ? 27 : 34; }
@@ -63,14 +62,12 @@ class Page {
   int AmountOffset() const { return window == 0 ? 8 : 35; }
   bool IsAmount(int area) const { return IsItemPage() && IsRow(area - AmountOffset()); }
   /// The currency label of an amount area: lbl(a + 7) on frmP1, lbl(a - 34) on the item pages.
-  Control& CurrencyLabel(int amountArea) {
-    return lbl[static_cast<size_t>(window == 0 ? amountArea + 7 : amountArea - 34)];
-  }
+  Control& CurrencyLabel(int amountArea) { return lbl[window == 0 ? amountArea + 7 : amountArea - 34]; }
   /// True when the row's area stands in the narrow place, which is what makes it a row with columns.
-  bool HasColumns(int row) const { return txt[static_cast<size_t>(row)].Width() == sheet::ColumnsWidth; }
+  bool HasColumns(int row) const { return txt[row].Width() == sheet::ColumnsWidth; }
 
  private:
-  std::vector<Control*> order_;
+  Array<Control*> order_;
 };
 
 /// The page of a window index, 0 to 6.

@@ -12,8 +12,7 @@ QString BlankSlot() {
 
 namespace {
 void BlankTexts(PageTexts& texts) {
-  for (int p = 0; p < IndexedPages; ++p)
-    texts[static_cast<size_t>(p)].assign(static_cast<size_t>(AreaCount(p)), BlankSlot());
+  for (int p = 0; p < IndexedPages; ++p) texts[p] = Array<QString>(AreaCount(p), BlankSlot());
 }
 }  // namespace
 

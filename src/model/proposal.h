@@ -51,10 +51,10 @@ struct LabelDefault {
   bool operator==(const LabelDefault&) const = default;
 };
 
-using TextTable = std::array<std::array<TextAreaRecord, AreasPerPage>, IndexedPages>;
-using LabelTable = std::array<std::array<LabelRecord, LabelsPerPage>, IndexedPages>;
+using TextTable = FixedArray<FixedArray<TextAreaRecord, AreasPerPage>, IndexedPages>;
+using LabelTable = FixedArray<FixedArray<LabelRecord, LabelsPerPage>, IndexedPages>;
 /// One string array per page: 36, 70, 70, 70, 70 and 6 of them.
-using PageTexts = std::array<std::vector<QString>, IndexedPages>;
+using PageTexts = FixedArray<Array<QString>, IndexedPages>;
 
 /// How many areas a page has, by page index 0 to 5.
 constexpr int AreaCount(int pageIndex) {
@@ -76,11 +76,11 @@ struct ProposalState {
   PageTexts PageText, SavedText;
   TextTable TextRec;
   LabelTable LabelRec, LabelBackup;
-  std::array<std::vector<LabelDefault>, IndexedPages> DefaultLabels;
+  FixedArray<Array<LabelDefault>, IndexedPages> DefaultLabels;
 
   // All money is single precision; AreaAmount and AreaTaxable are by page index, then area.
-  std::array<std::array<float, AreasPerPage>, ItemPages> AreaAmount{}, AreaTaxable{};
-  std::array<float, ItemPages> PageSubTotal{}, PageTaxable{};
+  FixedArray<FixedArray<float, AreasPerPage>, ItemPages> AreaAmount, AreaTaxable;
+  FixedArray<float, ItemPages> PageSubTotal, PageTaxable;
   float SubTotal = 0, TaxableAmount = 0, SalesTax = 0, GrandTotal = 0, DepositReceived = 0, BalanceDue = 0;
   float RunningTotal = 0, CheckTotal = 0;  ///< GrandTotal as each of the two calculations last had it
   int HighestPage = 6;                     ///< pages in use, 2 to 6
@@ -180,9 +180,9 @@ struct GridPoint {
 
 /// What helps to lay labels out, on the screen only.
 struct LayoutAids {
-  float SnapValue = 180;                    ///< twips that a dragged label jumps by; the grid's step
-  std::vector<GridPoint> GridPoints;        ///< drawn by the last DrawGrid; grows with each point
-  std::array<bool, PageCount> gridDrawn{};  ///< by window: its centre lines and points show
+  float SnapValue = 180;                  ///< twips that a dragged label jumps by; the grid's step
+  std::vector<GridPoint> GridPoints;      ///< drawn by the last DrawGrid; grows with each point
+  FixedArray<bool, PageCount> gridDrawn;  ///< by window: its centre lines and points show
 };
 
 struct PrintState {

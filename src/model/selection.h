@@ -1,7 +1,8 @@
 // Selected areas, the memory of copied rows, and the one-level undo of a delete.
 #pragma once
 #include <QString>
-#include <vector>
+
+#include "platform/array.h"
 
 namespace quillane {
 
@@ -41,10 +42,10 @@ struct SelectionState {
   bool MultiSelected = false;
   bool TopRowSelected = false, BottomRowSelected = false;
   int DescRowFirst = 0, DescRowLast = 34;
-  std::vector<ClipRow> rows;
-  std::vector<ClipAmount> amounts;
-  std::vector<UndoArea> undo;  ///< of the whole page
-  int UndoPage = 0;            ///< window index
+  Array<ClipRow> rows;
+  Array<ClipAmount> amounts;
+  Array<UndoArea> undo;  ///< of the whole page
+  int UndoPage = 0;      ///< window index
 };
 inline SelectionState selection;
 

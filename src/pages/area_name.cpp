@@ -73,7 +73,7 @@ QString AreaName(const Page& page, const Control& area) {
 
 QString AreaRemark(const Page& page, const Control& area) {
   const bool amount = area.Array() == QLatin1String("txt") && page.IsAmount(area.Index());
-  const bool exempt = amount && page.imgNoTax[static_cast<size_t>(area.Index())].Visible();
+  const bool exempt = amount && page.imgNoTax[area.Index()].Visible();
   return exempt ? QStringLiteral("exempt from sales tax") : QString();
 }
 

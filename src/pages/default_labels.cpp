@@ -25,7 +25,7 @@ void Put(Control& label, Place place, const QString& caption, Weight weight, flo
 }
 
 Control& Label(Page& page, int index) {
-  return page.lbl[static_cast<size_t>(index)];
+  return page.lbl[index];
 }
 
 QString BlankTitle() {

@@ -32,8 +32,7 @@ void PlaceRowWithoutColumns(Control& row) {
 void ShowDefaultPage(Page& page) {
   for (Control& area : page.txt) area.SetFontBold(false);
   if (page.IsItemPage()) {
-    for (int row = page.FirstRow(); row <= page.LastRow(); ++row)
-      PlaceRowWithoutColumns(page.txt[static_cast<size_t>(row)]);
+    for (int row = page.FirstRow(); row <= page.LastRow(); ++row) PlaceRowWithoutColumns(page.txt[row]);
     if (page.columnsLoaded) {
       ClearColumnTexts(page);
       HideColumns(page);
@@ -71,9 +70,9 @@ void ShowFirstPageRules(Page& first) {
 }
 
 void TakeFormatBold(Page& page) {
-  const auto& records = format.FormatTextRec[static_cast<size_t>(page.pageIndex)];
+  const auto& records = format.FormatTextRec[page.pageIndex];
   for (Control& area : page.txt)
-    if (records[static_cast<size_t>(area.Index())].FontBold) area.SetFontBold(true);
+    if (records[area.Index()].FontBold) area.SetFontBold(true);
 }
 
 }  // namespace
@@ -99,7 +98,7 @@ void ShowDefaultPages() {
 
 void StoreDefaultLabels() {
   for (int window = 0; window < IndexedPages; ++window) {
-    auto& defaults = proposal.DefaultLabels[static_cast<size_t>(window)];
+    auto& defaults = proposal.DefaultLabels[window];
     defaults.clear();
     for (const Control& label : page(window).lbl) defaults.push_back(DefaultOf(label));
   }
@@ -124,9 +123,8 @@ void LoadColumns(Page& page) {
   const Scoped rebuilding(editing.RebuildingPages, true);
   try {
     for (int row = page.FirstRow(); row <= page.LastRow(); ++row) {
-      const auto i = static_cast<size_t>(row);
-      page.txtQty[i].SetText(QStringLiteral("Qty."));
-      page.txtAmt[i].SetText(QStringLiteral("Amt."));
+      page.txtQty[row].SetText(QStringLiteral("Qty."));
+      page.txtAmt[row].SetText(QStringLiteral("Amt."));
     }
     page.columnsLoaded = true;
   } catch (const RuntimeError&) {
@@ -136,18 +134,18 @@ void LoadColumns(Page& page) {
 
 void ShowRowColumns(Page& page, int row, bool shown) {
   if (!page.IsRow(row)) return;
-  const auto i = static_cast<size_t>(row);
-  Control& area = page.txt[i];
+  Control& area = page.txt[row];
   if (shown) {
     area.SetLeft(sheet::ColumnsLeft);
     area.SetWidth(sheet::ColumnsWidth);
     // One row speaks one currency: a symbol chosen since waits for the next proposal.
-    page.lblAt[i].SetCaption(QStringLiteral("@ ") + page.CurrencyLabel(row + page.AmountOffset()).Caption());
-    page.lblEach[i].SetCaption(QStringLiteral("ea."));
+    page.lblAt[row].SetCaption(QStringLiteral("@ ") +
+                               page.CurrencyLabel(row + page.AmountOffset()).Caption());
+    page.lblEach[row].SetCaption(QStringLiteral("ea."));
   } else {
     PlaceRowWithoutColumns(area);
   }
-  for (Control* control : {&page.txtQty[i], &page.txtAmt[i], &page.lblAt[i], &page.lblEach[i]}) {
+  for (Control* control : {&page.txtQty[row], &page.txtAmt[row], &page.lblAt[row], &page.lblEach[row]}) {
     control->SetTop(area.Top());
     control->SetShown(shown);
   }

@@ -11,19 +11,19 @@ namespace {
 constexpr QChar BeforePart(165), BeforePrice(167);
 
 /// Bold and exemption of an area, into both layers.
-void TakeLook(const Page& page, size_t area) {
-  const auto p = static_cast<size_t>(page.pageIndex);
-  for (TextAreaRecord* record : {&proposal.TextRec[p][area], &format.FormatTextRec[p][area]}) {
+void TakeLook(const Page& page, int area) {
+  for (TextAreaRecord* record :
+       {&proposal.TextRec[page.pageIndex][area], &format.FormatTextRec[page.pageIndex][area]}) {
     record->FontBold = page.txt[area].GetFont().bold;
     record->TaxExempt = page.imgNoTax[area].Visible();
   }
 }
 
 /// The columns of a row, into both layers.
-void TakeColumns(const Page& page, size_t row) {
-  const auto p = static_cast<size_t>(page.pageIndex);
+void TakeColumns(const Page& page, int row) {
   const bool columns = page.HasColumns(static_cast<int>(row));
-  for (TextAreaRecord* record : {&proposal.TextRec[p][row], &format.FormatTextRec[p][row]}) {
+  for (TextAreaRecord* record :
+       {&proposal.TextRec[page.pageIndex][row], &format.FormatTextRec[page.pageIndex][row]}) {
     record->QtyWritten = columns;
     record->QtyBox = columns;
     record->QtyValue = page.txtQty[row].Text();
@@ -32,22 +32,20 @@ void TakeColumns(const Page& page, size_t row) {
 }
 
 void TakePage(const Page& page) {
-  auto& texts = proposal.PageText[static_cast<size_t>(page.pageIndex)];
+  auto& texts = proposal.PageText[page.pageIndex];
   for (int area = 0; area <= page.LastText(); ++area) {
-    const auto i = static_cast<size_t>(area);
-    if (page.IsItemPage()) TakeLook(page, i);
-    if (page.IsRow(area)) TakeColumns(page, i);
-    texts[i] = StoredForm(page, area);
+    if (page.IsItemPage()) TakeLook(page, area);
+    if (page.IsRow(area)) TakeColumns(page, area);
+    texts[area] = StoredForm(page, area);
   }
 }
 
 }  // namespace
 
 QString StoredForm(const Page& page, int area) {
-  const auto i = static_cast<size_t>(area);
-  const QString text = page.txt[i].Text().trimmed();
+  const QString text = page.txt[area].Text().trimmed();
   if (!page.IsRow(area) || !page.HasColumns(area)) return text;
-  return BeforePart + page.txtQty[i].Text() + BeforePart + text + BeforePrice + page.txtAmt[i].Text();
+  return BeforePart + page.txtQty[area].Text() + BeforePart + text + BeforePrice + page.txtAmt[area].Text();
 }
 
 void SaveTextBoxFeatures() {
@@ -60,12 +58,10 @@ void SyncQtyFlags() {
   for (int window = 0; window < ItemPages; ++window) {
     const Page& current = page(window);
     if (!current.columnsLoaded) continue;
-    const auto p = static_cast<size_t>(window);
     for (int row = current.FirstRow(); row <= current.LastRow(); ++row) {
-      const auto i = static_cast<size_t>(row);
-      const bool columns = !current.txtQty[i].Hidden();
-      proposal.TextRec[p][i].QtyBox = columns;
-      format.FormatTextRec[p][i].QtyBox = columns;
+      const bool columns = !current.txtQty[row].Hidden();
+      proposal.TextRec[window][row].QtyBox = columns;
+      format.FormatTextRec[window][row].QtyBox = columns;
     }
   }
 }

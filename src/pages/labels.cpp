@@ -21,7 +21,7 @@ bool Between(int value, int first, int last) {
 Control& CurrentLabelOf(Page& page) {
   if (!Between(labelEdit.CurrentLabel, 0, page.LastLabel()))
     Raise(errors::Subscript, QStringLiteral("label %1").arg(labelEdit.CurrentLabel));
-  return page.lbl[static_cast<size_t>(labelEdit.CurrentLabel)];
+  return page.lbl[labelEdit.CurrentLabel];
 }
 
 void Store(LabelRecord& stored, const LabelRecord& values) {
@@ -32,7 +32,7 @@ void Store(LabelRecord& stored, const LabelRecord& values) {
 
 /// Slant and underline are the copy's own.
 void CarryToCopy(int index, LabelRecord values) {
-  Control& label = page(CopyOfPage6).lbl[static_cast<size_t>(index)];
+  Control& label = page(CopyOfPage6).lbl[index];
   values.FontItalic = label.GetFont().italic;
   values.FontUnderline = label.GetFont().underline;
   values.Caption = CaptionForCopy(values.Caption);
@@ -136,9 +136,8 @@ void LoadCurrentLabel() {
 void StoreLabel(int index) {
   const int current = editing.CurrentPage;
   if (!Between(index, 0, LabelsPerPage - 1)) Raise(errors::Subscript, QStringLiteral("label %1").arg(index));
-  const auto p = static_cast<size_t>(current), n = static_cast<size_t>(index);
-  Store(format.FormatLabelRec[p][n], labelEdit.CurrentLabelRec);
-  Store(proposal.LabelRec[p][n], labelEdit.CurrentLabelRec);
+  Store(format.FormatLabelRec[current][index], labelEdit.CurrentLabelRec);
+  Store(proposal.LabelRec[current][index], labelEdit.CurrentLabelRec);
   if (current == TotalsPage) CarryToCopy(index, labelEdit.CurrentLabelRec);
 }
 

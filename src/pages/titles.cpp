@@ -5,8 +5,8 @@
 
 #include "model/frame.h"
 #include "model/proposal.h"
-#include "model/upcalls.h"
 #include "platform/codepage.h"
+#include "settings/preferences.h"
 
 namespace quillane {
 
@@ -16,7 +16,7 @@ const QString OurCopy = QStringLiteral(" - Our Copy");
 const QString TitleWithoutName = QStringLiteral("Proposal for (Client's Name)");
 
 LabelRecord& RecordOf(const Page& page, const Control& label) {
-  return proposal.LabelRec[static_cast<size_t>(page.pageIndex)][static_cast<size_t>(label.Index())];
+  return proposal.LabelRec[page.pageIndex][label.Index()];
 }
 
 /// Takes all but the caption from the label, and leaves the marks as they are.
@@ -37,9 +37,7 @@ bool StandsCentred(const Control& label) {
 }
 
 bool CountsAsChanged(const Page& page, const Control& label) {
-  return RecordOf(page, label).Changed ||
-         format.FormatLabelRec[static_cast<size_t>(page.pageIndex)][static_cast<size_t>(label.Index())]
-             .Changed;
+  return RecordOf(page, label).Changed || format.FormatLabelRec[page.pageIndex][label.Index()].Changed;
 }
 
 /// A label that a person has moved off the centre line stays where it was put; any other is centred again.
@@ -112,7 +110,7 @@ void UpdatePageNumbers(Titles titles) {
     Page& current = page(window);
     const int number = current.IsTotalsPage() ? highest : window + 1;
     const QString name = QStringLiteral("Page %1").arg(number);
-    Control& footer = current.lbl[static_cast<size_t>(PageNumberLabel(current))];
+    Control& footer = current.lbl[PageNumberLabel(current)];
     footer.SetCaption(name + QStringLiteral(" of %1").arg(highest));
     if (titles == Titles::Reset) CopyToRecord(current, footer);
     if (window == 0) continue;
@@ -155,7 +153,7 @@ void SaveTitles(const ProposalTitles& titles) {
 }
 
 bool MakeSubTitleDefault(const QString& subTitle) {
-  return upcalls().StorePreference(QStringLiteral("Page Titles:"), subTitle);
+  return StorePreference(QStringLiteral("Page Titles:"), subTitle);
 }
 
 }  // namespace quillane

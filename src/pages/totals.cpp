@@ -2,11 +2,9 @@
 
 #include <cmath>
 
-#include "model/focus.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/report.h"
-#include "pages/selection.h"
 #include "platform/numbers.h"
 #include "ui/desk.h"
 
@@ -25,7 +23,7 @@ QString Money(float value) {
 }
 
 Control& Figure(int area) {
-  return page(5).txt[static_cast<size_t>(area)];
+  return page(5).txt[area];
 }
 
 void MarkFresh() {
@@ -42,14 +40,12 @@ float ValueOf(const QString& trimmed) {
 }
 
 bool Exempt(const Page& owner, int area) {
-  return owner.imgNoTax[static_cast<size_t>(area)].Visible();
+  return owner.imgNoTax[area].Visible();
 }
 
 void EnterAmount(const Page& owner, int area, float value) {
-  const auto p = static_cast<size_t>(owner.pageIndex);
-  const auto a = static_cast<size_t>(area);
-  proposal.AreaAmount[p][a] = value;
-  proposal.AreaTaxable[p][a] = Exempt(owner, area) ? 0.0F : value;
+  proposal.AreaAmount[owner.pageIndex][area] = value;
+  proposal.AreaTaxable[owner.pageIndex][area] = Exempt(owner, area) ? 0.0F : value;
 }
 
 /// The tax is worked out beyond double precision and rounded once, as it is stored.
@@ -69,8 +65,7 @@ void ShowHiddenTotals() {
 }
 
 void CopyFigures() {
-  for (int area = 0; area < 6; ++area)
-    page(CopyOfPage6).txt[static_cast<size_t>(area)].SetText(Figure(area).Text());
+  for (int area = 0; area < 6; ++area) page(CopyOfPage6).txt[area].SetText(Figure(area).Text());
 }
 
 void AddThePages() {
@@ -153,10 +148,6 @@ void AddEverything() {
   ShowRunningSubTotal();
 }
 
-QString Comparable(float total) {
-  return FormatText(SingleText(total), patterns::Comparison);
-}
-
 /// The figure of the proposal that an area of page 6 sets when a person types into it; null for the others.
 float* FigureSetBy(const Control& area) {
   const QString kind = AreaKind(area);
@@ -186,13 +177,12 @@ bool MayMultiply(Product when) {
 
 void CalculateMyTotals(Page& owner) {
   if (!owner.IsItemPage()) return;
-  const auto p = static_cast<size_t>(owner.pageIndex);
-  float& all = proposal.PageSubTotal[p];
-  float& taxable = proposal.PageTaxable[p];
+  float& all = proposal.PageSubTotal[owner.pageIndex];
+  float& taxable = proposal.PageTaxable[owner.pageIndex];
   all = 0;
   taxable = 0;
   for (int area = 0; area <= owner.LastText(); ++area) {
-    const float value = proposal.AreaAmount[p][static_cast<size_t>(area)];
+    const float value = proposal.AreaAmount[owner.pageIndex][area];
     all = Checked(all + value);
     if (!Exempt(owner, area)) taxable = Checked(taxable + value);
   }
@@ -212,20 +202,6 @@ void RecalculateTotals(int) {
 
 void CheckAddition() {
   Guarded("CheckAddition", AddEverything);
-}
-
-bool CheckTheTotals() {
-  TakeFocusedAmount();
-  if (!Guarded("CalculateMyTotals", CalculateAllPages)) return false;
-  CheckAddition();
-  RecalculateTotals(0);
-  if (editing.HideTotals || Comparable(proposal.CheckTotal) == Comparable(proposal.RunningTotal)) return true;
-  MarkTotalsStale();
-  Tell(
-      QStringLiteral("A descrepancy has occurred in calculating the totals. Please verify\n"
-                     "the total amounts manually or press \"Recalculate\" to continue the\n"
-                     "calculation without true verification. We apologize for the inconvenience."));
-  return false;
 }
 
 void AmountTextChanged(Page& owner, Control& area) {
@@ -253,23 +229,22 @@ void AmountLeft(Page& owner, Control& area) {
 
 void MultiplyRow(Page& owner, int row, Product when) {
   if (!owner.IsRow(row) || !MayMultiply(when)) return;
-  const QString quantity = owner.txtQty[static_cast<size_t>(row)].Text();
-  const QString each = owner.txtAmt[static_cast<size_t>(row)].Text();
+  const QString quantity = owner.txtQty[row].Text();
+  const QString each = owner.txtAmt[row].Text();
   if (!IsNumeric(quantity) || !IsNumeric(each)) return;
   Guarded("txtQty_Change", [&] {
     const float product = Checked(ToSingle(quantity) * ToSingle(each));
     const Scoped pending(editing.RecalcPending, when == Product::FromTyping || editing.RecalcPending);
-    Control& amount = owner.txt[static_cast<size_t>(row + owner.AmountOffset())];
+    Control& amount = owner.txt[row + owner.AmountOffset()];
     amount.SetText(FormatNumber(product, patterns::Product));
   });
 }
 
 void TotalsTextChanged(Page& owner, Control& area) {
   if (owner.window != 5 || editing.RebuildingPages) return;
-  const auto index = static_cast<size_t>(area.Index());
-  proposal.PageText[5][index] = area.Text().trimmed();
+  proposal.PageText[5][area.Index()] = area.Text().trimmed();
   if (editing.OpeningFile) return;
-  page(CopyOfPage6).txt[index].SetText(area.Text());
+  page(CopyOfPage6).txt[area.Index()].SetText(area.Text());
   Guarded("txt_Change", [&] { TakeFigure(area); });
 }
 
@@ -284,11 +259,6 @@ void TotalsAreaLeft() {
 void RewriteDeposit() {
   Figure(4).SetText(Money(proposal.DepositReceived));
   RecalculateTotals(0);
-}
-
-void TakeFocusedAmount() {
-  SettleFocus();
-  if (editing.CurrentForm && editing.CurrentForm->IsItemPage()) FinishMove(*editing.CurrentForm);
 }
 
 void ShowRunningSubTotal() {

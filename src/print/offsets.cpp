@@ -14,7 +14,6 @@ namespace quillane {
 
 namespace {
 
-constexpr float TwipsPerInch = 1440;
 const QString FileName = QStringLiteral("PrinterOffsets.txt");
 const QString XKey = QStringLiteral("Printer X Offset:"), YKey = QStringLiteral("Printer Y Offset:");
 
@@ -33,9 +32,9 @@ float TwipsOf(const QString& value) {
 /// back as 7.8199997.
 float InchesOf(float twips) {
   constexpr double hundredThousand = 100000;
-  const double exact = double{twips} / double{TwipsPerInch};
+  const double exact = double{twips} / double{sheet::TwipsPerInch};
   const auto typed = static_cast<float>(std::round(exact * hundredThousand) / hundredThousand);
-  return typed * TwipsPerInch == twips ? typed : static_cast<float>(exact);
+  return typed * sheet::TwipsPerInch == twips ? typed : static_cast<float>(exact);
 }
 
 QString Shown(float twips) {
@@ -59,7 +58,7 @@ void ReadOffsets() {
 }  // namespace
 
 float OffsetInTwips(const QString& inches) {
-  const float twips = ToSingle(inches) * TwipsPerInch;
+  const float twips = ToSingle(inches) * sheet::TwipsPerInch;
   // A comma groups digits, so that "1,5" is fifteen; nothing of a page that is shifted as far would be
   // printed.
   if (std::abs(twips) >= sheet::Width) Raise(errors::Overflow, inches);

@@ -2,10 +2,10 @@
 
 #include <vector>
 
+#include "editing/totals_commands.h"
 #include "files/event_file.h"
 #include "model/report.h"
 #include "pages/titles.h"
-#include "pages/totals.h"
 #include "print/draw.h"
 #include "print/print.h"
 #include "ui/desk.h"

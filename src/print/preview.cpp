@@ -2,11 +2,11 @@
 
 #include <QStringList>
 
+#include "editing/areas.h"
 #include "model/frame.h"
 #include "model/page.h"
 #include "model/proposal.h"
 #include "model/report.h"
-#include "pages/areas.h"
 #include "print/print.h"
 
 namespace quillane {

@@ -2,13 +2,12 @@
 
 #include <memory>
 
+#include "editing/grid.h"
+#include "editing/totals_commands.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/report.h"
-#include "model/upcalls.h"
-#include "pages/grid.h"
 #include "pages/titles.h"
-#include "pages/totals.h"
 #include "platform/files.h"
 #include "print/draw.h"
 #include "ui/desk.h"
@@ -17,7 +16,6 @@ namespace quillane {
 
 namespace {
 
-constexpr float TwipsPerInch = 1440;
 constexpr int TotalsPage = 5;
 
 /// The document that is being drawn; gone once "Cancel Print" has dropped it.
@@ -81,10 +79,6 @@ void PrintOne(int window) {
   desk().ShowWindow(QStringLiteral("frmDialog"), Modality::Modeless);
   PrintTheForm();
   desk().CloseWindow(QStringLiteral("frmDialog"));
-}
-
-float WidthForStatus(Control& area, const QString& text) {
-  return PrinterTextWidth(area, text);
 }
 
 }  // namespace
@@ -154,7 +148,6 @@ void FindPrinter() {
     printing.CurrentPrinter = system == PdfPrinter ? QString() : system;
   }
   printing.NoPrinter = printing.CurrentPrinter.isEmpty() ? errors::Printer : 0;
-  upcalls().PrinterWidth = printing.NoPrinter != 0 ? nullptr : WidthForStatus;
 }
 
 void LoadTheFonts() {
@@ -176,12 +169,6 @@ void LoadTheFonts() {
     }
     printing.FontsLoaded = true;
   });
-}
-
-float PrinterTextWidth(const Control& area, const QString& text) {
-  Font font = area.GetFont();
-  font.italic = font.underline = false;
-  return TextWidth(font, text) / TwipsPerInch;
 }
 
 const QString& PrintMessage() {

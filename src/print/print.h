@@ -26,8 +26,6 @@ void ReadPrinterOffsets();
 void BringSheetsUpToDate();
 /// What every drawing begins with: stale totals are recalculated, the printer's offsets are read.
 void PrepareDrawing();
-/// The printed width of `text` in an area's font, in inches.
-float PrinterTextWidth(const Control& area, const QString& text);
 /// What frmDialog's lblMessage reads.
 const QString& PrintMessage();
 

@@ -1,9 +1,9 @@
 #include "print/printer_choice.h"
 
 #include "model/proposal.h"
-#include "model/upcalls.h"
 #include "platform/runtime_error.h"
 #include "print/print.h"
+#include "settings/preferences.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -45,7 +45,7 @@ bool MakeDefaultPrinter(const QString& name) {
   }
   printing.CurrentPrinter = name;
   Tell(printing.CurrentPrinter);
-  const bool stored = upcalls().StorePreference(QStringLiteral("Default Printer:"), name);
+  const bool stored = StorePreference(QStringLiteral("Default Printer:"), name);
   FindPrinter();
   return stored;
 }

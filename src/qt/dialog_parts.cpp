@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
-#include "pages/colours.h"
+#include "editing/colours.h"
 #include "platform/codepage.h"
 #include "qt/painter_surface.h"
 #include "ui/desk.h"

@@ -20,6 +20,7 @@
 #include "qt/pictures.h"
 #include "qt/printers.h"
 #include "qt/windows.h"
+#include "qt/word_document.h"
 
 namespace quillane {
 
@@ -206,11 +207,12 @@ Picture QtDesk::LoadPicture(const QString& path) {
   return ReadPicture(path);
 }
 
+QByteArray QtDesk::WordDocument(const QString& title, const QString& report) {
+  return MakeWordDocument(title, report);
+}
+
 int QtDesk::ScreenWidth() const {
   return QApplication::primaryScreen()->size().width();
-}
-int QtDesk::ScreenHeight() const {
-  return QApplication::primaryScreen()->size().height();
 }
 QDateTime QtDesk::Now() const {
   return QDateTime::currentDateTime();

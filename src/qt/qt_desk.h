@@ -33,8 +33,8 @@ class QtDesk : public Desk {
                                          const QString& pdfPath) override;
   QStringList ScreenFonts() const override;
   Picture LoadPicture(const QString& path) override;
+  QByteArray WordDocument(const QString& title, const QString& report) override;
   int ScreenWidth() const override;
-  int ScreenHeight() const override;
   QDateTime Now() const override;
   qint64 TickCount() const override;
   void ServeEvents() override;

@@ -62,7 +62,7 @@ void FillDocument(QTextDocument& document, const QStringList& lines) {
 
 }  // namespace
 
-QByteArray WordDocument(const QString& title, const QString& report) {
+QByteArray MakeWordDocument(const QString& title, const QString& report) {
   QString text = report;
   text.remove(u'\r');
   QTextDocument document;

@@ -7,6 +7,6 @@ namespace quillane {
 
 /// An OpenDocument text whose lines are those of `report`: its headings stand out and its values line up. The
 /// sheet's size is the word processor's own.  Throws 75 when it could not be made.
-QByteArray WordDocument(const QString& title, const QString& report);
+QByteArray MakeWordDocument(const QString& title, const QString& report);
 
 }  // namespace quillane

@@ -1,6 +1,7 @@
 // All that leaves the program goes through Desk, so that a test can answer questions, move the clock and
 // count sheets.
 #pragma once
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -42,8 +43,9 @@ class Desk {
   virtual QStringList ScreenFonts() const = 0;
   /// Reads a picture's natural size.  Throws 53 or 481.
   virtual Picture LoadPicture(const QString& path) = 0;
-  virtual int ScreenWidth() const = 0;   ///< pixels
-  virtual int ScreenHeight() const = 0;  ///< pixels
+  /// A report as the bytes of an OpenDocument text.
+  virtual QByteArray WordDocument(const QString& title, const QString& report) = 0;
+  virtual int ScreenWidth() const = 0;  ///< pixels
   virtual QDateTime Now() const = 0;
   virtual qint64 TickCount() const = 0;  ///< milliseconds
   virtual void ServeEvents() = 0;

@@ -98,7 +98,6 @@ TEST_F(DamagedFiles, OfPropertiesCostTheLookOnly) {
 }
 
 TEST_F(DamagedFiles, OfFormatsApplyUpToTheDamage) {
-  upcalls().OpenFormat = OpenFormatFile;
   struct Case {
     const char* what;
     QByteArray damage;

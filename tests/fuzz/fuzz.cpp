@@ -11,7 +11,6 @@
 #include <random>
 #include <stdexcept>
 
-#include "app/preferences.h"
 #include "model/proposal.h"
 #include "platform/codepage.h"
 #include "platform/dates.h"
@@ -19,6 +18,7 @@
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
 #include "property_language.h"
+#include "settings/preferences.h"
 #include "unit/fake_desk.h"
 
 using namespace quillane;
@@ -88,7 +88,7 @@ void CheckPreferences(const QByteArray& file) {
   Require(prefs.DefaultFont.FontSize > 0 && !prefs.DefaultFont.FontName.isEmpty(), "there is a font");
   const QStringList lines = prefs.PrefLines;
   if (lines.isEmpty()) return;
-  Require(SaveUserPreferences() == Saved::Yes, "the preferences can be saved");
+  Require(SaveUserPreferences(), "the preferences can be saved");
   GetUserPreferences();
   Require(prefs.PrefLines == lines, "the preferences read back");
 }

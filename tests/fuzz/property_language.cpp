@@ -107,8 +107,6 @@ void StartAfresh() {
   QDir().mkpath(prefs.ProposalFolder);
   prefs.CurrencySymbol = QStringLiteral("$");
   upcalls() = {};
-  upcalls().PropertyLinesNow = PropertyLinesNow;
-  upcalls().OpenFormat = OpenFormatFile;
   SetUpPages();
   StartNewFile();
 }
@@ -191,7 +189,7 @@ QByteArray PropertyFileInput(std::mt19937& random) {
   const bool sound = Below(random, 3) == 0;
   for (auto left = Below(random, 12); left > 0; --left) {
     const auto pick = Below(random, static_cast<qsizetype>(Seeds().size()));
-    const QByteArray& seed = Seeds()[static_cast<size_t>(pick)].line;
+    const QByteArray& seed = Seeds()[pick].line;
     file += !sound && Below(random, 3) == 0 ? Damaged(seed, random) : seed;
     file += Below(random, 20) == 0 ? "\n" : "\r\n";
   }

@@ -3,10 +3,10 @@
 
 #include <QMap>
 
+#include "editing/grid.h"
 #include "model/proposal.h"
-#include "pages/grid.h"
 #include "paper_desk.h"
-#include "qt/sheet_view.h"
+#include "sheet/sheet_view.h"
 
 using namespace quillane;
 using namespace quillane::test;

@@ -4,9 +4,9 @@
 #include <QList>
 #include <QTemporaryDir>
 
+#include "editing/areas.h"
 #include "model/frame.h"
 #include "model/proposal.h"
-#include "pages/areas.h"
 #include "pages/defaults.h"
 #include "pages/titles.h"
 #include "qt/pictures.h"

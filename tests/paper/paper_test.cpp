@@ -34,9 +34,9 @@ class Paper : public testing::Test {
     if (!filled.IsItemPage()) return;
     const int row = filled.FirstRow() + 3;
     ShowRowColumns(filled, row, true);
-    filled.txtQty[static_cast<size_t>(row)].SetText(QStringLiteral("12"));
-    filled.txtAmt[static_cast<size_t>(row)].SetText(QStringLiteral("104.50"));
-    filled.txt[static_cast<size_t>(row + 1)].SetFontBold(true);
+    filled.txtQty[row].SetText(QStringLiteral("12"));
+    filled.txtAmt[row].SetText(QStringLiteral("104.50"));
+    filled.txt[row + 1].SetFontBold(true);
   }
 
   PdfPage Print(int window) {
@@ -85,7 +85,7 @@ TEST_F(Paper, PutsEveryTextOfEveryPageAtItsPlaceAndPrintsNothingElse) {
 TEST_F(Paper, EndsAmountsAtTheRightEdgeOfTheirColumn) {
   struct Case {
     int window;
-    size_t area;
+    int area;
     const char* text;
     float right;
   };
@@ -105,7 +105,7 @@ TEST_F(Paper, EndsAmountsAtTheRightEdgeOfTheirColumn) {
 
 TEST_F(Paper, IsAsWideAsTheStatusBarSays) {
   struct Case {
-    size_t area;
+    int area;
     const char* text;
   };
   constexpr Case cases[] = {{0, "Garlands"}, {1, "Categories"}, {2, "Wisteria-and-smilax"}, {40, "1,250.75"}};

@@ -112,7 +112,7 @@ TEST_F(PdfFile, AWordProcessorFindsTheReportsLinesInItsDocument) {
   Write(0, QStringLiteral("Roses < \"lilies\" & ivy"));
   const QString report = ProposalReport();
   const QString path = prefs.ProposalFolder + QStringLiteral("report.odt");
-  ReplaceFile(path, WordDocument(proposal.Title, report));
+  ReplaceFile(path, MakeWordDocument(proposal.Title, report));
   QString content = Output(QStringLiteral("unzip"), {"-p", path, "content.xml"});
   ASSERT_FALSE(content.isEmpty()) << "the test needs unzip";
   EXPECT_TRUE(content.contains(QStringLiteral("font-family=\"Arial\" fo:font-size=\"10pt\"")));

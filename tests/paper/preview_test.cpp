@@ -11,7 +11,7 @@
 #include "platform/files.h"
 #include "print/draw.h"
 #include "print/print.h"
-#include "qt/sheet_view.h"
+#include "sheet/sheet_view.h"
 
 using namespace quillane;
 using namespace quillane::test;
@@ -91,13 +91,12 @@ class PreviewOnPaper : public testing::Test {
     moved.SetForeColor(colors::Red);
     moved.SetFontItalic(true);
     if (!filled.IsItemPage()) return;
-    const auto row = static_cast<size_t>(filled.FirstRow());
     ShowRowColumns(filled, filled.FirstRow() + 3, true);
-    filled.txtQty[row + 3].SetText(QStringLiteral("12"));
-    filled.txtAmt[row + 3].SetText(QStringLiteral("104.50"));
-    filled.txt[row + 1].SetFontBold(true);
-    filled.txt[row + 2].SetForeColor(0xFF00FF);
-    filled.imgNoTax[row + static_cast<size_t>(filled.AmountOffset())].SetShown(true);
+    filled.txtQty[filled.FirstRow() + 3].SetText(QStringLiteral("12"));
+    filled.txtAmt[filled.FirstRow() + 3].SetText(QStringLiteral("104.50"));
+    filled.txt[filled.FirstRow() + 1].SetFontBold(true);
+    filled.txt[filled.FirstRow() + 2].SetForeColor(0xFF00FF);
+    filled.imgNoTax[filled.FirstRow() + filled.AmountOffset()].SetShown(true);
     editing.UnderlineMainCategories = true;
   }
 

@@ -7,15 +7,15 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include "editing/selection.h"
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/upcalls.h"
-#include "pages/selection.h"
 #include "paper_desk.h"
 #include "platform/codepage.h"
-#include "qt/label_hands.h"
-#include "qt/rubber_band.h"
-#include "qt/sheet_view.h"
+#include "sheet/label_drag.h"
+#include "sheet/rubber_band.h"
+#include "sheet/sheet_view.h"
 
 using namespace quillane;
 using namespace quillane::test;
@@ -28,7 +28,7 @@ class Sheet : public testing::Test {
   SheetView view;
 
   void SetUp() override {
-    upcalls().UpdatePageButtons = [](int window) { TheSheetView()->ShowPage(window); };
+    frame().pageBroughtToFront = [](int window) { TheSheetView()->ShowPage(window); };
     view.resize(900, 1080);
     view.show();
     Front(1);

@@ -149,12 +149,12 @@ TEST_F(Areas, ADroppedTermBringsItsPrice) {
 TEST_F(Areas, TheRightButtonRefreshesWarningsAndOpensTheMenuOfItsArea) {
   static QString opened;
   opened.clear();
-  upcalls().PopUpTextMenu = [](Control& area) { opened = area.FullName(); };
+  upcalls().PopUpMenu = [](const QString& menu, Control& area) { opened = menu + u' ' + area.FullName(); };
   At("frmP2.txt(5)").SetText(Words(95));
   At("frmP2.txt(5)").SetBackColor(colors::Grey);
   At("frmP2.txt(6)").SetBackColor(colors::Red);
   MouseDown(At("frmP2.txt(9)"), true);
-  EXPECT_EQ(opened, "frmP2.txt(9)");
+  EXPECT_EQ(opened, "mnuEditTextBox frmP2.txt(9)");
   EXPECT_EQ(At("frmP2.txt(5)").BackColor(), colors::Red);
   EXPECT_EQ(At("frmP2.txt(6)").BackColor(), colors::Grey);
   EXPECT_EQ(At("frmP2.txt(9)").BackColor(), colors::Cyan);
@@ -170,14 +170,14 @@ TEST_F(Areas, TheStatusFollowsTheCaret) {
   SetFocus(At("frmP2.txt(0)"));
   typist.Type(QStringLiteral("Roses"));
   EXPECT_EQ(frame()["lblCurPos"].Caption(), "Cursor Location = 5");
-  EXPECT_FALSE(frame()["lblTextPos"].Visible()) << "no printer";
-  upcalls().PrinterWidth = [](Control&, const QString& text) {
-    return 0.25F * static_cast<float>(text.size());
-  };
   At("frmP2.txt(0)").SetSelStart(3);
+  printing.NoPrinter = errors::Printer;
+  MouseDown(At("frmP2.txt(0)"), false);
+  EXPECT_FALSE(frame()["lblTextPos"].Visible()) << "no printer";
+  printing.NoPrinter = 0;
   MouseDown(At("frmP2.txt(0)"), false);
   EXPECT_TRUE(frame()["lblTextPos"].Visible());
-  EXPECT_EQ(frame()["lblTextPos"].Caption(), "Printer Text Position = .75");
+  EXPECT_EQ(frame()["lblTextPos"].Caption(), "Printer Text Position = .21");
   MouseUp(At("frmP2.txt(0)"));
   EXPECT_EQ(editing.CursorLocation, 3);
 }
@@ -203,19 +203,6 @@ TEST_F(Areas, ReleasingShiftEndsARunOfMoves) {
   FormKeyUp(page(1), {keys::Down, false, false, false, QString()});
   EXPECT_FALSE(editing.MovingContents);
   EXPECT_EQ(proposal.AreaAmount[1][40], 12.0F);
-}
-
-TEST_F(Areas, AFailureInAKeyIsReportedUnderItsPage) {
-  QTemporaryDir home;
-  prefs.ProgramFolder = home.path() + QLatin1Char('/');
-  typist.desk.shown.append(QStringLiteral("frmFUT"));
-  upcalls().ShowTermLists = [] { Raise(errors::Subscript); };
-  SetFocus(At("frmP4.txt(5)"));
-  typist.Key(keys::F5, false);
-  EXPECT_TRUE(typist.desk.LastSaid().contains(QStringLiteral("An error occurred in Page 4 Keydown.")));
-  EXPECT_EQ(FocusName(), "frmP4.txt(5)");
-  upcalls() = {};
-  prefs.ProgramFolder.clear();
 }
 
 struct MenuCase {
@@ -262,19 +249,6 @@ TEST_F(Areas, TheTextMenuKnowsWhatCanBeDone) {
   SetEditMenuState();
   EXPECT_EQ(frame()["mnuEditTextColumns"].Caption(), "Remove Columns");
   EXPECT_TRUE(frame()["mnuEditTextUndo"].Enabled());
-}
-
-TEST_F(Areas, TheTermListsAnswerOnlyWhileTheirWindowIsOpen) {
-  static QString asked;
-  asked.clear();
-  upcalls().ShowTermLists = [] { asked += QLatin1Char('5'); };
-  upcalls().NextTermList = [] { asked += QLatin1Char('6'); };
-  SetFocus(At("frmP2.txt(0)"));
-  typist.Key(keys::F5);
-  typist.desk.shown.append(QStringLiteral("frmFUT"));
-  typist.Key(keys::F6);
-  typist.Key(keys::F5);
-  EXPECT_EQ(asked, "65");
 }
 
 TEST_F(Areas, ADoubleClickWritesTheDateInFull) {

@@ -83,7 +83,7 @@ TEST_F(Typing, InsideALineABlankPushesTheTailAndTheCaretStays) {
 }
 
 TEST_F(Typing, ACascadeRunsIntoTheLastRowAndEndsThere) {
-  for (int row = 31; row <= 34; ++row) page(1).txt[static_cast<size_t>(row)].SetText(Words(Full - 1));
+  for (int row = 31; row <= 34; ++row) page(1).txt[row].SetText(Words(Full - 1));
   Start("frmP2.txt(31)", Words(Full - 1));
   typist.Type(QStringLiteral(" "));
   EXPECT_EQ(FocusName(), "frmP2.txt(32)") << "the key that began it decides the caret";
@@ -95,7 +95,7 @@ TEST_F(Typing, ACascadeRunsIntoTheLastRowAndEndsThere) {
   EXPECT_EQ(At("frmP2.txt(35)").Text(), QString());
   EXPECT_EQ(At("frmP3.txt(0)").Text(), QString());
   int letters = 0;
-  for (int row = 31; row <= 34; ++row) letters += Letters(page(1).txt[static_cast<size_t>(row)].Text());
+  for (int row = 31; row <= 34; ++row) letters += Letters(page(1).txt[row].Text());
   EXPECT_EQ(letters, 4 * Letters(Words(Full - 1)));
 }
 
@@ -265,23 +265,6 @@ TEST_F(Typing, EveryTwentiethKeyTakesABackup) {
   proposal.OpenedFromBackup = true;
   typist.Type(Words(20));
   EXPECT_EQ(copies, 2) << "never over the copy that is open";
-}
-
-TEST_F(Typing, AutoCompleteDoesNothingWhileItIsOff) {
-  static int asked;
-  asked = 0;
-  upcalls().FrequentTermsHook = [](Control&) { ++asked; };
-  upcalls().AcceptGuess = [](Control&, int, bool) {
-    ++asked;
-    return false;
-  };
-  Start("frmP2.txt(0)", QString());
-  typist.Type(QStringLiteral("cen"));
-  typist.Key(keys::Right);
-  EXPECT_EQ(asked, 0);
-  terms.AutoComplete = true;
-  typist.Type(QStringLiteral("t"));
-  EXPECT_EQ(asked, 2);
 }
 
 }  // namespace

@@ -93,14 +93,11 @@ TEST(WalkLimits, ColumnBoxesEndAtTheFirstAndLastRow) {
 
 TEST(WalkLimits, AnotherPageComesToTheFrontOnTheWay) {
   Typist typist;
-  static int front;
-  front = -1;
-  upcalls().UpdatePageButtons = [](int window) { front = window; };
   SetFocus(At("frmP4.txt(69)"));
   typist.Key(keys::Tab);
-  EXPECT_EQ(front, 4);
+  EXPECT_EQ(editing.FrontWindow, 4);
   typist.Key(keys::Tab, true);
-  EXPECT_EQ(front, 3);
+  EXPECT_EQ(editing.FrontWindow, 3);
 }
 
 TEST(Columns, QuantityLeadsToTheStartOfTheWords) {

@@ -1,12 +1,12 @@
 // What counts as a change, and what rows carry into the tables before a save.
-#include "pages/changes.h"
+#include "files/changes.h"
 
 #include <gtest/gtest.h>
 
 #include "fake_desk.h"
+#include "files/property_file.h"
 #include "model/page.h"
 #include "model/proposal.h"
-#include "model/upcalls.h"
 #include "pages/defaults.h"
 #include "pages/features.h"
 
@@ -17,13 +17,12 @@ namespace {
 class Changes : public testing::Test {
  protected:
   void SetUp() override { ResetState(); }
-  void TearDown() override { upcalls() = {}; }
   test::FakeDesk desk_;
 };
 
 TEST_F(Changes, CountInTextsAndTheDepositOnly) {
   struct Case {
-    size_t page, area;
+    int page, area;
     const char *saved, *now;
     bool changed;
   };
@@ -43,6 +42,7 @@ TEST_F(Changes, CountInTextsAndTheDepositOnly) {
 }
 
 TEST_F(Changes, CountInMarksAndInLines) {
+  proposal.SavedPropertyLines = PropertyLinesNow();
   EXPECT_FALSE(PropertiesHaveChanged());
   proposal.TextRec[4][69].PropChanged = true;
   EXPECT_TRUE(PropertiesHaveChanged());
@@ -53,10 +53,11 @@ TEST_F(Changes, CountInMarksAndInLines) {
   proposal.LabelRec[5][64].Changed = true;
   EXPECT_TRUE(ProposalHasChanged());
   proposal.LabelRec[5][64].Written = true;
+  proposal.SavedPropertyLines = PropertyLinesNow();
   EXPECT_FALSE(PropertiesHaveChanged()) << "a label that is in the file is no change";
-  upcalls().PropertyLinesNow = [] { return QStringList{"frmP2.txt(3).FontBold=True"}; };
+  page(1).txt[3].SetFontBold(true);
   EXPECT_TRUE(PropertiesHaveChanged());
-  proposal.SavedPropertyLines = upcalls().PropertyLinesNow();
+  proposal.SavedPropertyLines = PropertyLinesNow();
   EXPECT_FALSE(PropertiesHaveChanged());
 }
 

@@ -1,4 +1,4 @@
-#include "pages/colours.h"
+#include "editing/colours.h"
 
 #include <gtest/gtest.h>
 

@@ -41,7 +41,7 @@ TEST_F(CommandTable, HasEveryEntryWithItsCaptionKeyAndStartState) {
 TEST_F(CommandTable, ToolBarButtonsOfAbsentCommandsAreDisabled) {
   EXPECT_FALSE(frame()["imgSearch"].Enabled());
   EXPECT_TRUE(frame()["cmdReCalc"].Enabled());
-  EnableEntry("mnuEditFind", true);
+  EnableMenu("mnuEditFind", true);
   EXPECT_FALSE(frame()["mnuEditFind"].Enabled());
 }
 

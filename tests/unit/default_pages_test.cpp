@@ -187,7 +187,7 @@ TEST_F(DefaultPages, RuleBlocksFiguresAndContract) {
   // heading.
   constexpr int Blocks[][4] = {{13, 2, 4, 20}, {20, 8, 10, 27}, {27, 14, 14, 30}, {30, 16, 18, 35}};
   for (int block = 0; block < 4; ++block) {
-    const auto at = [](const std::vector<Control>& array, int i) { return array[static_cast<size_t>(i)]; };
+    const auto at = [](const Array<Control>& array, int i) { return array[i]; };
     const float under = at(first.lne, block * 5).Top(), closing = at(first.lne, block * 5 + 2).Top();
     const auto& [heading, firstField, lastField, next] = Blocks[block];
     EXPECT_GT(under, at(first.lbl, heading).Top() + at(first.lbl, heading).Height());

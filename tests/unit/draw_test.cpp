@@ -22,7 +22,7 @@ TEST(Draw, StandsAmountsAtTheRightEdgeOnPaperAndLeftOnTheScreen) {
   struct Case {
     int window;
     const char* array;
-    size_t index;
+    int index;
     bool right;
   };
   constexpr Case cases[] = {{0, "txt", 0, false},    {0, "txt", 1, true},  {0, "txt", 27, false},

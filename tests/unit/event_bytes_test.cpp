@@ -10,7 +10,7 @@ namespace {
 class EventBytes : public testing::Test {
  protected:
   void SetUp() override { ResetState(); }
-  QString& Text(int p, size_t i) { return proposal.PageText[static_cast<size_t>(p)][i]; }
+  QString& Text(int p, int i) { return proposal.PageText[p][i]; }
   test::FakeDesk desk_;
 };
 
@@ -21,7 +21,7 @@ QString Line(int length) {
 TEST_F(EventBytes, LieAtTheirOffsetsInAFileOfOneLength) {
   struct Case {
     int page;
-    size_t area;
+    int area;
     qsizetype offset;
   };
   const Case cases[] = {{0, 2, 50},     {0, 18, 1010}, {0, 27, 1900}, {0, 28, 2020}, {1, 0, 2180},

@@ -17,9 +17,6 @@ class ExportTest : public test::ProposalTest {
   void SetUp() override {
     ProposalTest::SetUp();
     Type("frmP1.txt(2)", "Emily Carter");
-    upcalls().WordDocument = [](const QString& title, const QString& report) {
-      return (title + u'|' + report).toUtf8();
-    };
   }
   /// What the report says between the headings of the items and of the totals.
   static QString Items() {
@@ -30,10 +27,9 @@ class ExportTest : public test::ProposalTest {
   }
   /// As F8 makes a row; what is null leaves the prompt.
   static void GiveColumns(int window, int row, const QString& quantity, const QString& each) {
-    const auto i = static_cast<size_t>(row);
     ShowRowColumns(page(window), row, true);
-    if (!quantity.isNull()) page(window).txtQty[i].SetText(quantity);
-    if (!each.isNull()) page(window).txtAmt[i].SetText(each);
+    if (!quantity.isNull()) page(window).txtQty[row].SetText(quantity);
+    if (!each.isNull()) page(window).txtAmt[row].SetText(each);
   }
 };
 
@@ -98,7 +94,7 @@ TEST_F(ExportTest, TellsThePeopleThePlacesAndTheTotals) {
   tax.TaxRate = 7.5F;
   ASSERT_TRUE(Open("Emily Carter.wwf"));
   Type("frmP1.txt(8)", QString::fromUtf8("  Daniel Núñez "));
-  for (size_t i = 16; i <= 46; ++i) page(5).lbl[i].SetCaption(i == 20 ? "No refunds." : "");
+  for (int i = 16; i <= 46; ++i) page(5).lbl[i].SetCaption(i == 20 ? "No refunds." : "");
   page(5).lbl[56].SetCaption("");
   EXPECT_EQ(ProposalReportBytes(), ReadWholeFile(QUILLANE_TEST_DATA "/Emily Carter report.txt"));
 }

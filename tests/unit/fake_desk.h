@@ -51,8 +51,10 @@ class FakeDesk : public Desk {
     return {QStringLiteral("Arial"), QStringLiteral("Times New Roman")};
   }
   Picture LoadPicture(const QString& path) override { return {path, 1500, 1500}; }
+  QByteArray WordDocument(const QString& title, const QString& report) override {
+    return (title + u'|' + report).toUtf8();
+  }
   int ScreenWidth() const override { return 1280; }
-  int ScreenHeight() const override { return 1024; }
   QDateTime Now() const override { return now; }
   qint64 TickCount() const override { return 0; }
   void ServeEvents() override {}

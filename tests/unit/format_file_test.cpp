@@ -12,12 +12,7 @@ class Formats : public test::ProposalTest {
  protected:
   void SetUp() override {
     ProposalTest::SetUp();
-    upcalls().OpenFormat = OpenFormatFile;
-    upcalls().StorePreference = [](const QString& key, const QString& value) {
-      if (key == "Default File Format:") prefs.DefaultFileFormat = value;
-      if (key == "Load Default Format:") prefs.LoadDefaultFormat = value == "True";
-      return true;
-    };
+    PutPreferences();
     StartNewFile();
   }
 
@@ -35,9 +30,8 @@ class Formats : public test::ProposalTest {
   static void MoveLabel(Control& label, float left, const QString& caption) {
     label.SetLeft(left);
     label.SetCaption(caption);
-    const auto p = static_cast<size_t>(PageOf(label)->pageIndex);
-    proposal.LabelRec[p][static_cast<size_t>(label.Index())].Changed = true;
-    format.FormatLabelRec[p][static_cast<size_t>(label.Index())].Changed = true;
+    proposal.LabelRec[PageOf(label)->pageIndex][label.Index()].Changed = true;
+    format.FormatLabelRec[PageOf(label)->pageIndex][label.Index()].Changed = true;
   }
   void FillPages() {
     Type("frmP1.txt(20)", "Ceremony, .FontBold=True");

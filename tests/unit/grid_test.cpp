@@ -1,11 +1,12 @@
 // The snap, the grid's points and who takes the drawing away.
-#include "pages/grid.h"
+#include "editing/grid.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "app/startup.h"
+#include "editing/navigation.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/upcalls.h"

@@ -1,8 +1,8 @@
 // Blank pages with their columns, handlers and text menu: where a test of rows begins.
 #pragma once
+#include "editing/areas.h"
 #include "model/frame.h"
 #include "model/proposal.h"
-#include "pages/areas.h"
 #include "pages/defaults.h"
 
 namespace quillane::test {

@@ -1,6 +1,6 @@
-#include "pages/label_props.h"
+#include "editing/label_props.h"
 
-#include "pages/colours.h"
+#include "editing/colours.h"
 #include "pages/labels.h"
 #include "proposal_fixture.h"
 
@@ -35,12 +35,8 @@ class LabelProps : public test::ProposalTest {
     for (const Control& label : page(window).lbl) values.push_back(ValuesOf(label));
     return values;
   }
-  static LabelRecord Stored(int page, int label) {
-    return proposal.LabelRec[static_cast<size_t>(page)][static_cast<size_t>(label)];
-  }
-  static LabelRecord InFormat(int page, int label) {
-    return format.FormatLabelRec[static_cast<size_t>(page)][static_cast<size_t>(label)];
-  }
+  static LabelRecord Stored(int page, int label) { return proposal.LabelRec[page][label]; }
+  static LabelRecord InFormat(int page, int label) { return format.FormatLabelRec[page][label]; }
 };
 
 TEST_F(LabelProps, ActOnTheLabelAtOnceAndAreStoredAtTheEnd) {

@@ -1,6 +1,7 @@
 // Labels in a person's hands: marks, steps of a drag, what is stored, what a selection takes.
 #include "pages/labels.h"
 
+#include "editing/navigation.h"
 #include "platform/runtime_error.h"
 #include "unit/proposal_fixture.h"
 
@@ -9,20 +10,12 @@ using quillane::test::ProposalTest;
 
 namespace {
 
-int shownWindow = -1;
-
 class Labels : public ProposalTest {
  protected:
-  void SetUp() override {
-    ProposalTest::SetUp();
-    shownWindow = -1;
-    upcalls().UpdatePageButtons = [](int window) { shownWindow = window; };
-  }
+  void SetUp() override { ProposalTest::SetUp(); }
 
-  static Control& Label(int window, int index) { return page(window).lbl[static_cast<size_t>(index)]; }
-  static LabelRecord& Stored(int p, int n) {
-    return proposal.LabelRec[static_cast<size_t>(p)][static_cast<size_t>(n)];
-  }
+  static Control& Label(int window, int index) { return page(window).lbl[index]; }
+  static LabelRecord& Stored(int p, int n) { return proposal.LabelRec[p][n]; }
 
   /// Presses inside the label, moves the pointer there by there, as the viewer tells it, and lets go.
   static void Drag(Control& label, float dx, float dy) {
@@ -142,10 +135,10 @@ TEST_F(Labels, TheLinkLeadsToTheNextPage) {
   for (int window = 0; window < PageCount; ++window) {
     for (const Control& label : page(window).lbl) {
       SCOPED_TRACE(label.FullName().toStdString());
-      shownWindow = -1;
+      UpdatePageButtons(0);
       lbl_Click(Label(window, label.Index()));
       const bool link = window >= 1 && window <= 4 && label.Index() == 37;
-      ASSERT_EQ(shownWindow, link ? window + 1 : -1);
+      ASSERT_EQ(editing.FrontWindow, link ? window + 1 : 0);
       ASSERT_EQ(PointerOver(label) == MousePointer::Link, link);
     }
   }

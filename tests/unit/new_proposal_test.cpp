@@ -64,16 +64,6 @@ TEST_F(NewProposal, TakesFontAndSubtitleFromThePreferences) {
   EXPECT_EQ(At("frmP6_1.lbl(0)").Caption(), "Spring Fair, Page 6");
 }
 
-TEST_F(NewProposal, LeavesWhatALockedFormatFills) {
-  format.FormatIsOpen = true;
-  format.FormatTextRec[1][3].HasFormatText = true;
-  At("frmP2.txt(3)").SetText("Arch and aisle");
-  At("frmP2.txt(4)").SetText("Pews");
-  StartNewFile();
-  EXPECT_EQ(TextOf("frmP2.txt(3)"), "Arch and aisle");
-  EXPECT_EQ(TextOf("frmP2.txt(4)"), "");
-}
-
 TEST_F(NewProposal, WithoutAFormatNothingStaysInItsLayer) {
   At("frmP2.txt(4)").SetText("Pews");
   format.FormatLabelRec[1][0].Changed = true;

@@ -212,18 +212,6 @@ TEST_F(Opening, StopsAtAPropertyLineThatIsWrong) {
   }
 }
 
-TEST_F(Opening, KeepsTheTextThatALockedFormatFixes) {
-  Put("Ann Lee.wwf", FileBytes().Row(3, "stored").Row(4, "stored too", "12").Bytes());
-  format.FormatIsOpen = true;
-  format.FormatTextRec[1][3].HasFormatText = true;
-  At("frmP2.txt(3)").SetText("Arch and aisle");
-  ASSERT_TRUE(Open("Ann Lee.wwf"));
-  EXPECT_EQ(TextOf("frmP2.txt(3)"), "Arch and aisle");
-  EXPECT_EQ(TextOf("frmP2.txt(4)"), "stored too");
-  EXPECT_EQ(proposal.AreaAmount[1][39], 12);
-  EXPECT_FALSE(ProposalHasChanged());
-}
-
 TEST_F(Opening, FromTheBackupFolderReadsAndWritesPropertiesBesideTheOriginal) {
   Put("Backup/Ann Lee.wwf", FileBytes().Row(0, "Item").Bytes());
   Put("Ann Lee.wpf", "frmP2.txt(0).FontBold=True\r\n");

@@ -1,8 +1,8 @@
-#include "app/preferences.h"
+#include "settings/preferences.h"
 
 #include <QFile>
 
-#include "pages/user_font.h"
+#include "editing/user_font.h"
 #include "platform/runtime_error.h"
 #include "program_folder.h"
 
@@ -90,7 +90,7 @@ TEST_F(PreferencesFile, ALaterReadingLeavesWhatTheSessionChanged) {
   proposal.CurrentFolder = "/elsewhere/";
   format.FormatFolder = "/formats/";
   terms = {"Mine.fut", false, false, 7};
-  EXPECT_EQ(StorePreference(Setting::CompanyName, "Birch Events"), Saved::Yes);
+  EXPECT_TRUE(StorePreference(Setting::CompanyName, "Birch Events"));
   EXPECT_EQ(prefs.CompanyName, "Birch Events");
   EXPECT_EQ(proposal.UDP.FontSize, 12);
   EXPECT_EQ(proposal.SubTitle, "By hand - ");
@@ -205,14 +205,14 @@ TEST_F(PreferencesFile, WithoutAFileTheProposalsAreLocal) {
 
   // Never made from nothing.
   EXPECT_THROW(StorePreference(Setting::CompanyName, "x"), RuntimeError);
-  EXPECT_EQ(SaveUserPreferences(), Saved::No);
+  EXPECT_FALSE(SaveUserPreferences());
   EXPECT_FALSE(FileExists(prefs.ProgramFolder, "UserPreferences.txt"));
 }
 
 TEST_F(PreferencesFile, AFailingSaveLeavesFileAndSettings) {
   GetUserPreferences();
   SetFaultHook([](const char* step, const QString&) { return qstrcmp(step, "sync") == 0 ? ENOSPC : 0; });
-  EXPECT_EQ(StorePreference(Setting::CompanyName, "Birch"), Saved::No);
+  EXPECT_FALSE(StorePreference(Setting::CompanyName, "Birch"));
   EXPECT_TRUE(desk.LastSaid().contains("An error occurred in SaveUserPreferences.\nError Number: 61"));
   EXPECT_EQ(prefs.CompanyName, "Alder Events");
   EXPECT_EQ(Get("UserPreferences.txt"), Installed);
@@ -277,11 +277,7 @@ TEST_F(PreferencesFile, ACurrencySymbolThatCannotBeStoredIsTold) {
 TEST_F(PreferencesFile, TheFontInUseBecomesTheDefault) {
   GetUserPreferences();
   proposal.UDP = {"Arial", 11.25f, 0xFF0000, false};
-  upcalls().StorePreferences = [](const PreferenceValues& values) {
-    return StorePreferences(values) == Saved::Yes;
-  };
   EXPECT_TRUE(MakeUserFontDefault());
-  upcalls() = {};
   EXPECT_EQ(prefs.DefaultFont, proposal.UDP);
   EXPECT_TRUE(
       Get("UserPreferences.txt")

@@ -1,6 +1,7 @@
 #include "print/preview.h"
 
 #include "connected_program.h"
+#include "editing/navigation.h"
 #include "pages/defaults.h"
 
 using namespace quillane;

@@ -28,10 +28,7 @@ class PrinterChoice : public testing::Test {
   void SetUp() override {
     ResetState();
     desk.printers = QStringList{"Office Laser", "Hall Inkjet", "PDF File"};
-    upcalls() = Upcalls();
-    upcalls().StorePreference = [](const QString&, const QString&) { return false; };
   }
-  void TearDown() override { upcalls() = Upcalls(); }
   ChoiceDesk desk;
 };
 
@@ -44,7 +41,10 @@ TEST_F(PrinterChoice, IsNoneWhileTheSystemDoesNotAnswer) {
 }
 
 TEST_F(PrinterChoice, KeepsTheOldOneWhenTheChoiceCannotBeStored) {
+  prefs.PrefLines = QStringList{"App First Instance:False"};
+  prefs.ProgramFolder = "/nowhere/";
   EXPECT_FALSE(MakeDefaultPrinter("Hall Inkjet"));
+  prefs.ProgramFolder.clear();
   EXPECT_EQ(printing.CurrentPrinter, QStringLiteral("Office Laser"));
 }
 

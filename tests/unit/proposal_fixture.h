@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "editing/areas.h"
 #include "fake_desk.h"
+#include "files/changes.h"
 #include "files/event_file.h"
 #include "files/new_proposal.h"
 #include "files/property_file.h"
@@ -14,11 +16,10 @@
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/upcalls.h"
-#include "pages/areas.h"
-#include "pages/changes.h"
 #include "pages/defaults.h"
 #include "pages/totals.h"
 #include "platform/files.h"
+#include "settings/preferences.h"
 
 namespace quillane::test {
 
@@ -35,7 +36,6 @@ class ProposalTest : public testing::Test {
     ASSERT_TRUE(QDir().mkpath(prefs.BackupFolder));
     SetDrivesFolder(prefs.ProgramFolder + "drives");
     upcalls() = {};
-    upcalls().PropertyLinesNow = PropertyLinesNow;
     for (const char* menu :
          {"mnuFileDelete", "mnuFileRestoreFromBackup", "mnuEditLogoVisible", "mnuOptHideTotals"})
       frame().AddMenu(QString::fromLatin1(menu), QString());
@@ -80,6 +80,14 @@ class ProposalTest : public testing::Test {
     QStringList texts;
     for (const test::Said& box : desk_.said) texts << box.text;
     return texts;
+  }
+
+  /// Preferences that can be stored: a file, and what was read of it.
+  void PutPreferences() {
+    QFile::copy(QStringLiteral(QUILLANE_TEST_DATA "/../../data/UserPreferences.txt"),
+                prefs.ProgramFolder + "UserPreferences.txt");
+    GetUserPreferences();
+    desk_.said.clear();
   }
 
   /// The answers to the next questions, and what is typed into the next input box.

@@ -3,14 +3,14 @@
 // them reads back.
 #include <random>
 
+#include "editing/areas.h"
+#include "editing/selection.h"
 #include "files/event_file.h"
 #include "model/focus.h"
 #include "model/proposal.h"
 #include "model/selection.h"
-#include "pages/areas.h"
 #include "pages/features.h"
-#include "pages/row_contents.h"
-#include "pages/selection.h"
+#include "pages/rows.h"
 #include "pages/totals.h"
 #include "platform/numbers.h"
 #include "unit/fake_desk.h"
@@ -92,8 +92,8 @@ class Planner {
       editing.CurrentArea = row;
       ToggleColumns();
       if (!there.HasColumns(row)) return;
-      there.txtQty[static_cast<size_t>(row)].SetText(QString::number(Below(90)));
-      there.txtAmt[static_cast<size_t>(row)].SetText(SingleText(static_cast<float>(Below(4000)) / 4));
+      there.txtQty[row].SetText(QString::number(Below(90)));
+      there.txtAmt[row].SetText(SingleText(static_cast<float>(Below(4000)) / 4));
       // A product written on leaving a quantity waits for its amount to be left, so it is left here.
       SetFocus(Area(there, row + there.AmountOffset()));
       SetFocus(Area(there, row));
@@ -110,7 +110,7 @@ class Planner {
       amount.SetText(Below(5) ? SingleText(static_cast<float>(Below(8000) - 1000) / 4) : QString());
       SetFocus(Area(there, row));
       if (Below(4) == 0) {
-        there.imgNoTax[static_cast<size_t>(amount.Index())].SetShown(Below(2) == 0);
+        there.imgNoTax[amount.Index()].SetShown(Below(2) == 0);
         CalculateMyTotals(there);
         RecalculateTotals(0);
       }
@@ -125,8 +125,7 @@ std::string Disagreement() {
   for (int window = 0; window < ItemPages; ++window) {
     Page& there = page(window);
     for (int area = 0; area <= there.LastText(); ++area) {
-      const QString stored =
-          proposal.PageText[static_cast<size_t>(window)][static_cast<size_t>(area)].trimmed();
+      const QString stored = proposal.PageText[window][area].trimmed();
       if (stored != StoredForm(there, area).trimmed())
         return (Area(there, area).FullName() + " stores '" + stored + "' and shows '" +
                 StoredForm(there, area) + "'")
@@ -134,7 +133,7 @@ std::string Disagreement() {
       if (!there.IsAmount(area)) continue;
       const QString text = Area(there, area).Text();
       const float shown = text.isEmpty() ? 0 : ToSingle(text);
-      if (proposal.AreaAmount[static_cast<size_t>(window)][static_cast<size_t>(area)] != shown)
+      if (proposal.AreaAmount[window][area] != shown)
         return (Area(there, area).FullName() + " is worth another sum than it shows").toStdString();
       if (there.CurrencyLabel(area).Visible() == text.isEmpty())
         return (Area(there, area).FullName() + " and its currency sign disagree").toStdString();
@@ -159,11 +158,11 @@ std::string FileDifference() {
   const EventFields fields = ReadEventFields(EventFileBytes());
   for (int window = 0; window < ItemPages; ++window)
     for (int area = 0; area <= page(window).LastText(); ++area) {
-      QString text = fields.text[static_cast<size_t>(window)][static_cast<size_t>(area)].trimmed();
+      QString text = fields.text[window][area].trimmed();
       const bool marked = text.startsWith(QChar(0xD8));
       if (marked) text.remove(0, 1);
       Page& there = page(window);
-      if (there.IsAmount(area) && marked != there.imgNoTax[static_cast<size_t>(area)].Visible())
+      if (there.IsAmount(area) && marked != there.imgNoTax[area].Visible())
         return Area(there, area).FullName().toStdString() + " loses its mark in the file";
       if (text != StoredForm(there, area).trimmed())
         return Area(there, area).FullName().toStdString() + " is another in the file";

@@ -1,11 +1,11 @@
 // Rows as blocks: what a rectangle takes, what copy, cut, paste, delete, undo and moves carry and refuse.
-#include "pages/selection.h"
+#include "editing/selection.h"
 
+#include "editing/areas.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/selection.h"
-#include "pages/areas.h"
-#include "pages/row_contents.h"
+#include "pages/rows.h"
 #include "pages/totals.h"
 #include "unit/fake_desk.h"
 #include "unit/item_pages.h"
@@ -45,9 +45,7 @@ class Selection : public testing::Test {
   }
 
   static QString TextAt(int window, int area) { return Area(page(window), area).Text(); }
-  static QString Stored(int window, int area) {
-    return proposal.PageText[static_cast<size_t>(window)][static_cast<size_t>(area)].trimmed();
-  }
+  static QString Stored(int window, int area) { return proposal.PageText[window][area].trimmed(); }
 
   FakeDesk desk;
 };

@@ -1,9 +1,8 @@
-#include "files/small_files.h"
-
+#include "editing/totals_commands.h"
 #include "model/frame.h"
 #include "model/upcalls.h"
-#include "pages/totals.h"
 #include "program_folder.h"
+#include "settings/tax_rate.h"
 
 using namespace quillane;
 using namespace quillane::test;
@@ -89,10 +88,8 @@ TEST_F(SmallFiles, ARateIsStoredInFiveBytes) {
 TEST_F(SmallFiles, ARateThatCannotBeWrittenIsNotTheRate) {
   PutRate("7.50 ");
   GetTaxRate();
-  upcalls().SaveTaxRate = SaveTaxRate;
   SetFaultHook([](const char* step, const QString&) { return qstrcmp(step, "rename") == 0 ? EACCES : 0; });
   AcceptTaxRate("8");
-  upcalls() = {};
   EXPECT_TRUE(desk.LastSaid().contains("An error occurred in SaveTaxRate.\nError Number: 70"));
   EXPECT_EQ(Rate(), "7.50 ");
   EXPECT_EQ(tax.TaxRate, 7.5F);

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "connected_program.h"
+#include "editing/navigation.h"
 
 using namespace quillane;
 using namespace quillane::test;

@@ -31,7 +31,7 @@ TEST_F(TitlesOfPages, CountThePagesInUse) {
   FindHighestPage();
   EXPECT_EQ(proposal.HighestPage, 6) << "no text: the count stays";
   for (const Case& c : {Case{0, 2, 2}, Case{1, 0, 3}, Case{2, 69, 4}, Case{3, 34, 5}, Case{4, 12, 6}}) {
-    page(c.window).txt[static_cast<size_t>(c.area)].SetText("x");
+    page(c.window).txt[c.area].SetText("x");
     FindHighestPage();
     EXPECT_EQ(proposal.HighestPage, c.highest);
   }

@@ -1,10 +1,9 @@
 // From the price in its area to the Balance Due: both calculations, the tax, what shows and what is told.
-#include "pages/totals.h"
-
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 
+#include "editing/totals_commands.h"
 #include "fake_desk.h"
 #include "model/focus.h"
 #include "model/frame.h"
@@ -12,12 +11,11 @@
 #include "model/proposal.h"
 #include "model/upcalls.h"
 #include "pages/defaults.h"
+#include "platform/files.h"
 
 using namespace quillane;
 
 namespace {
-
-int rateSaves = 0;
 
 /// Pages wired as far as amounts need it: a text box's change reaches the totals and nothing else.
 class Totals : public testing::Test {
@@ -29,8 +27,7 @@ class Totals : public testing::Test {
     tax.TaxRate = 7.5F;
     ShowDefaultPages();
     for (int window = 0; window < 6; ++window) page(window).form.textChanged = Route;
-    upcalls().SaveTaxRate = [] { ++rateSaves; };
-    rateSaves = 0;
+    prefs.ProposalFolder = prefs.ProgramFolder;
   }
   void TearDown() override {
     upcalls() = {};
@@ -277,7 +274,7 @@ TEST_F(Totals, LeaveAnEmptyPageSixAlone) {
 }
 
 TEST_F(Totals, TellAnOverflowAndGoOn) {
-  proposal.PageSubTotal = {3e38F, 0, 3e38F, 0, 0};
+  proposal.PageSubTotal[0] = proposal.PageSubTotal[2] = 3e38F;
   RecalculateTotals(0);
   ASSERT_EQ(desk_.said.size(), 1);
   EXPECT_TRUE(desk_.LastSaid().startsWith("Error encountered while recalculating totals."));
@@ -309,22 +306,19 @@ TEST_F(Totals, AcceptARate) {
   struct Case {
     const char *typed, *text;
     float rate;
-    int saves;
   };
-  for (const Case& c : {Case{"7.5", "7.50", 7.5F, 1}, Case{" 8 ", "8.00", 8, 1}, Case{".5", ".50", 0.5F, 1},
-                        Case{"100", "100.0", 100, 1}, Case{"", "", 0, 1}}) {
+  for (const Case& c : {Case{"7.5", "7.50", 7.5F}, Case{" 8 ", "8.00", 8}, Case{".5", ".50", 0.5F},
+                        Case{"100", "100.0", 100}, Case{"", "", 0}}) {
     SCOPED_TRACE(c.typed);
-    rateSaves = 0;
     AcceptTaxRate(c.typed);
     EXPECT_EQ(tax.TaxRateText, c.text);
     EXPECT_EQ(tax.TaxRate, c.rate);
-    EXPECT_EQ(rateSaves, c.saves);
+    EXPECT_EQ(ReadWholeFile(prefs.ProposalFolder + "SalesTax.txt").trimmed(), c.text);
   }
   AcceptTaxRate("7.5");
-  rateSaves = 0;
   AcceptTaxRate("1.2.3");
   EXPECT_EQ(tax.TaxRateText, "7.50");
-  EXPECT_EQ(rateSaves, 0);
+  EXPECT_EQ(ReadWholeFile(prefs.ProposalFolder + "SalesTax.txt"), "7.50 ");
 }
 
 }  // namespace

@@ -1,12 +1,12 @@
 // A person at the keyboard: calls the pages' handlers in the order in which a viewer does, and edits as an
 // editor would.
 #pragma once
+#include "editing/areas.h"
 #include "fake_desk.h"
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/upcalls.h"
-#include "pages/areas.h"
 
 namespace quillane::test {
 
@@ -65,7 +65,7 @@ class Typist {
  private:
   static void Release(const KeyEvent& event) {
     if (!editing.Focus) return;
-    KeyUp(*editing.Focus, event);
+    KeyUp(*editing.Focus);
     FormKeyUp(*PageOf(*editing.Focus), event);
   }
 

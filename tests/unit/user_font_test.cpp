@@ -1,4 +1,4 @@
-#include "pages/user_font.h"
+#include "editing/user_font.h"
 
 #include "proposal_fixture.h"
 

@@ -4,10 +4,10 @@
 #include "model/page.h"
 #include "model/proposal.h"
 #include "properties.h"
-#include "qt/frame_window.h"
-#include "qt/sheet_view.h"
 #include "sample.h"
+#include "sheet/sheet_view.h"
 #include "statements.h"
+#include "windows/frame_window.h"
 
 namespace quillane::scenario {
 

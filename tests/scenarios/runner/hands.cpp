@@ -17,8 +17,8 @@
 #include "keys.h"
 #include "model/frame.h"
 #include "model/page.h"
-#include "qt/frame_window.h"
-#include "qt/sheet_view.h"
+#include "sheet/sheet_view.h"
+#include "windows/frame_window.h"
 
 namespace quillane::scenario {
 

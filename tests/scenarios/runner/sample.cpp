@@ -56,7 +56,7 @@ void CompareTexts(const QJsonObject& texts, Differences& differences) {
 void CompareColumns(const QJsonObject& columns, Differences& differences) {
   for (int window = 0; window < ItemPages; ++window)
     for (int row = page(window).FirstRow(); row <= page(window).LastRow(); ++row) {
-      const auto index = static_cast<size_t>(row);
+      const int index = row;
       for (const Control* column : {&page(window).txtQty[index], &page(window).txtAmt[index]}) {
         const bool wanted = columns.contains(column->FullName());
         differences.Compare(column->FullName(), YesNo(wanted), YesNo(column->Visible()));
@@ -78,8 +78,8 @@ void CompareMarks(const QJsonArray& exempt, Differences& differences) {
 
 void CompareTotals(const QJsonArray& totals, Differences& differences) {
   for (const int window : {5, CopyOfPage6})
-    for (qsizetype at = 0; at < totals.size(); ++at) {
-      const Control& area = page(window).txt[static_cast<size_t>(at)];
+    for (int at = 0; at < totals.size(); ++at) {
+      const Control& area = page(window).txt[(at)];
       differences.Compare(area.FullName(), totals[at].toString(), area.Text());
     }
 }

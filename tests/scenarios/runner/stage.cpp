@@ -9,7 +9,7 @@
 #include "model/frame.h"
 #include "model/page.h"
 #include "model/proposal.h"
-#include "qt/frame_window.h"
+#include "windows/frame_window.h"
 
 namespace quillane::scenario {
 

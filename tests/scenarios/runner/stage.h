@@ -3,9 +3,9 @@
 #include <QWidget>
 #include <memory>
 
-#include "qt/program.h"
 #include "script.h"
 #include "test_desk.h"
+#include "windows/program.h"
 
 class QAction;
 class QMenu;

@@ -51,7 +51,6 @@ class TestDesk : public QtDesk {
   std::unique_ptr<Surface> BeginDocument(const QString& printer, const QString& title,
                                          const QString& pdfPath) override;
   int ScreenWidth() const override { return screenWidth; }
-  int ScreenHeight() const override { return screenHeight; }
   QDateTime Now() const override { return now; }
   /// Runs ahead with each look, so that no scenario waits for real time.
   qint64 TickCount() const override { return ticks_ += 50; }

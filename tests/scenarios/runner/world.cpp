@@ -10,7 +10,7 @@
 
 #include "app/startup.h"
 #include "failure.h"
-#include "qt/frame_window.h"
+#include "windows/frame_window.h"
 
 namespace quillane::scenario {
 
