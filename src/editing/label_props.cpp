@@ -12,7 +12,7 @@ namespace quillane {
 
 namespace {
 
-std::vector<LabelRecord> before;  // the labels of the page when the window opened
+Array<LabelRecord> before;  // the labels of the page when the window opened
 std::vector<int> centred;         // its title and its heading, where they stood in the middle of the sheet
 
 Page& LabelPage() {

@@ -63,8 +63,8 @@ Array<Control> MakeArray(Form& form, Kind kind, const char* name, int count) {
   return array;
 }
 
-std::array<std::unique_ptr<Page>, PageCount>& Pages() {
-  static std::array<std::unique_ptr<Page>, PageCount> pages;
+FixedArray<std::unique_ptr<Page>, PageCount>& Pages() {
+  static FixedArray<std::unique_ptr<Page>, PageCount> pages;
   return pages;
 }
 
@@ -141,7 +141,7 @@ void CreatePages() {
 
 Page& page(int window) {
   if (!Pages()[0]) CreatePages();
-  return *Pages().at(window);
+  return *Pages()[window];
 }
 
 Page* PageOf(const Control& control) {
