@@ -6,6 +6,7 @@
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/report.h"
+#include "model/strip.h"
 
 namespace quillane {
 
@@ -89,6 +90,11 @@ void FrameClicked(const QString& control) {
   if (!clicked.Visible() || !clicked.Enabled()) return;
   if (control.startsWith(QLatin1String("imgPage("))) {
     UpdatePageButtons(control.mid(8, 1).toInt());
+    return;
+  }
+  if (control.startsWith(QLatin1String("cmdStrip("))) {
+    const int button = control.mid(9, 1).toInt();
+    Guarded("cmdStrip_Click", [button] { PressStripButton(button); });
     return;
   }
   // Buttons take the focus as buttons do, so the area that had it is left; images do not.

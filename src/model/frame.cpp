@@ -24,6 +24,8 @@ Frame::Frame() {
   Add(Kind::Label, "lblCurPos", "Cursor Location =");
   Add(Kind::Label, "lblTextNum", "Text Area =");
   Add(Kind::Label, "lblTotal", "Running Total =");
+  Add(Kind::Label, "lblStrip", "").SetVisible(false);
+  Add(Kind::Label, "lblStatus", "").SetVisible(false);
   struct Item {
     const char *name, *text;
   };
@@ -55,6 +57,11 @@ Frame::Frame() {
     Control& control = Add(Kind::Button, button.name, button.caption);
     control.SetToolTip(QString::fromLatin1(button.tip));
     control.SetBackColor(colors::ButtonFace);
+  }
+  for (int k = 0; k < 3; ++k) {
+    Control& button = Add(Kind::Button, QStringLiteral("cmdStrip(%1)").arg(k), "");
+    button.SetBackColor(colors::ButtonFace);
+    button.SetVisible(false);
   }
 }
 

@@ -3,6 +3,7 @@
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/selection.h"
+#include "model/strip.h"
 
 namespace quillane {
 
@@ -34,6 +35,7 @@ void ResetState() {
   BlankTexts(proposal.SavedText);
   CreatePages();
   CreateFrame();
+  ResetStrip();
   editing.CurrentForm = &page(0);
 }
 

@@ -10,10 +10,12 @@
 
 #include "app/commands.h"
 #include "model/proposal.h"
+#include "model/strip.h"
 #include "qt/elided_label.h"
 #include "qt/icons.h"
 #include "sheet/sheet_view.h"
 #include "windows/frame_window.h"
+#include "windows/strip_bar.h"
 
 namespace quillane {
 
@@ -204,6 +206,19 @@ QWidget* FrameWindow::MakeInfoBar() {
   return bar;
 }
 
+QWidget* FrameWindow::MakeStrip() {
+  strip_ = new Strip;
+  Keep(QStringLiteral("lblStrip"), strip_->Text());
+  for (int k = 0; k < Strip::Buttons; ++k) {
+    const QString name = QStringLiteral("cmdStrip(%1)").arg(k);
+    connect(strip_->Button(k), &QPushButton::clicked, this, [name] { FrameClicked(name); });
+    Keep(name, strip_->Button(k));
+  }
+  connect(strip_->Close(), &QToolButton::clicked, this, [] { CloseStrip(); });
+  strip_->Follow(frame()[QStringLiteral("lblStrip")]);
+  return strip_;
+}
+
 QWidget* FrameWindow::MakeSheetRow() {
   auto* bar = new QWidget;
   auto* row = new QHBoxLayout(bar);
@@ -222,8 +237,15 @@ QWidget* FrameWindow::MakeStatusBar() {
   auto* bar = new QWidget;
   bar->setObjectName(QStringLiteral("picBottom"));
   QHBoxLayout* row = MakeRow(*bar, 4, 16);
+  auto* labels = new QWidget;
+  auto* inside = new QHBoxLayout(labels);
+  inside->setContentsMargins(0, 0, 0, 0);
+  inside->setSpacing(16);
   for (const char* name : {"lblTextPos", "lblHighestPage", "lblCurPos", "lblTextNum"})
-    row->addWidget(AddLabel(QString::fromLatin1(name), Qt::ElideRight, Qt::AlignLeft), 1);
+    inside->addWidget(AddLabel(QString::fromLatin1(name), Qt::ElideRight, Qt::AlignLeft), 1);
+  statusLine_ = new StatusLine(labels, AddLabel(QStringLiteral("lblStatus"), Qt::ElideRight, Qt::AlignLeft));
+  connect(statusLine_, &StatusLine::Read, this, [] { ClearStatusBar(); });
+  row->addWidget(statusLine_, 4);
   row->addWidget(AddLabel(QStringLiteral("lblTotal"), Qt::ElideRight, Qt::AlignRight), 1);
   return bar;
 }

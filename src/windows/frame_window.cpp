@@ -22,6 +22,7 @@
 #include "qt/icons.h"
 #include "sheet/rubber_band.h"
 #include "sheet/sheet_view.h"
+#include "windows/strip_bar.h"
 
 namespace quillane {
 
@@ -71,6 +72,7 @@ FrameWindow::FrameWindow() {
   rows->setSpacing(0);
   rows->addWidget(MakeToolBar());
   rows->addWidget(MakeInfoBar());
+  rows->addWidget(MakeStrip());
   rows->addWidget(MakeSheetRow(), 1);
   rows->addWidget(MakeStatusBar());
   setCentralWidget(centre);
@@ -155,6 +157,12 @@ void FrameWindow::Follow(Control& control, QWidget& widget) {
     if (button->accessibleName() != control.Caption()) button->setAccessibleName(control.Caption());
   }
   FollowColours(control, widget);
+  FollowStrip(control);
+}
+
+void FrameWindow::FollowStrip(const Control& control) {
+  if (strip_ && control.Array() == QLatin1String("lblStrip")) strip_->Follow(control);
+  if (statusLine_ && control.Array() == QLatin1String("lblStatus")) statusLine_->Follow(control);
 }
 
 /// Colours that mean something are shown; black on white is the desktop's own text and ground.

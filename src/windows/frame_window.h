@@ -14,6 +14,8 @@ class QScrollBar;
 namespace quillane {
 
 class SheetView;
+class StatusLine;
+class Strip;
 
 /// Shows frame() and sends what a person does to FrameClicked and RunCommand.  Every widget's object name is
 /// the name of its control, every action's that of its menu entry.
@@ -40,6 +42,7 @@ class FrameWindow : public QMainWindow, private FormObserver {
   // Building.
   QWidget* MakeToolBar();
   QWidget* MakeInfoBar();
+  QWidget* MakeStrip();
   QWidget* MakeSheetRow();
   QWidget* MakeStatusBar();
   void AddImage(QHBoxLayout& row, const QString& name, int size);
@@ -55,12 +58,15 @@ class FrameWindow : public QMainWindow, private FormObserver {
   void FollowColours(const Control& control, QWidget& widget) const;
   void FollowScroll();
   void FollowTitle();
+  void FollowStrip(const Control& control);
 
   bool ReturnToSheet(const QEvent& event);
   void CentreOnScreen();
 
-  SheetView* sheet_ = nullptr;  // these two are owned by the widget tree
+  SheetView* sheet_ = nullptr;  // these are owned by the widget tree
   QScrollBar* scrollBar_ = nullptr;
+  Strip* strip_ = nullptr;
+  StatusLine* statusLine_ = nullptr;
   QHash<const Control*, QWidget*> widgets_;
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<LabelHands> labelHands_;
