@@ -13,7 +13,7 @@ namespace quillane {
 namespace {
 
 Array<LabelRecord> before;  // the labels of the page when the window opened
-std::vector<int> centred;         // its title and its heading, where they stood in the middle of the sheet
+std::vector<int> centred;   // its title and its heading, where they stood in the middle of the sheet
 
 Page& LabelPage() {
   return *editing.CurrentForm;
