@@ -1,0 +1,30 @@
+// How a book's list shows the names of its records, and the way back from a row to a name.
+#pragma once
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <vector>
+
+#include "address/record.h"
+
+namespace quillane {
+
+/// A person's name, first name first, as the list takes it apart.  A name of one word is all last name, and
+/// its suffix is left out.
+struct PersonNameParts {
+  QByteArrayView first, last, suffix;
+};
+PersonNameParts PartsOfName(QByteArrayView storedName);
+
+/// What the list shows for a stored name.  A company stands as it is stored, with its blanks behind; a person
+/// by the last name: "John Doe JR." as "Doe JR., John".
+QByteArray ListText(Book book, QByteArrayView storedName);
+
+/// The stored name that a row stands for, padded as it is stored.  Not every row leads back: "Cher JR." shows
+/// as "Cher".  Throws 5 for a person's row that ends in its comma.
+QByteArray KeyOf(Book book, const QByteArray& listText);
+
+/// Sorts without regard to case and accents, character by character; what is alike then stands by its bytes.
+void SortNames(std::vector<QByteArray>& names);
+
+}  // namespace quillane
