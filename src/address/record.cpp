@@ -1,5 +1,6 @@
 #include "address/record.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <array>
 
