@@ -11,7 +11,9 @@
 #include <random>
 #include <stdexcept>
 
+#include "address.h"
 #include "model/proposal.h"
+#include "platform/array.h"
 #include "platform/codepage.h"
 #include "platform/dates.h"
 #include "platform/files.h"
@@ -93,11 +95,9 @@ void CheckPreferences(const QByteArray& file) {
   Require(prefs.PrefLines == lines, "the preferences read back");
 }
 
-enum class Target { Texts, Preferences, Properties };
+enum class Target { Texts, Preferences, Properties, AddressFile, AddressLists, Contacts, Count };
 
-void CheckInput(const QByteArray& bytes, Target target) {
-  if (target == Target::Preferences) CheckPreferences(bytes);
-  if (target == Target::Properties) return test::CheckPropertyLanguage(bytes);
+void CheckTexts(const QByteArray& bytes) {
   const QString text = FromCodePage(bytes);
   CheckNumberText(text);
   CheckDate(text);
@@ -108,6 +108,23 @@ void CheckInput(const QByteArray& bytes, Target target) {
   CheckSingle(std::bit_cast<float>(bits * 2654435761U));
 }
 
+void CheckInput(const QByteArray& bytes, Target target) {
+  switch (target) {
+    case Target::Preferences:
+      return CheckPreferences(bytes);
+    case Target::Properties:
+      return test::CheckPropertyLanguage(bytes);
+    case Target::AddressFile:
+      return test::CheckAddressFile(bytes);
+    case Target::AddressLists:
+      return test::CheckAddressLists(bytes);
+    case Target::Contacts:
+      return test::CheckContacts(bytes);
+    default:
+      return CheckTexts(bytes);
+  }
+}
+
 /// Inputs that are nearly right find more than noise does: pieces of what the readers know, put together and
 /// damaged.
 class Inputs {
@@ -115,8 +132,20 @@ class Inputs {
   explicit Inputs(unsigned seed) : random_(seed) {}
 
   QByteArray For(Target target) {
-    if (target == Target::Properties) return test::PropertyFileInput(random_);
-    return target == Target::Preferences ? Preferences() : Text();
+    switch (target) {
+      case Target::Preferences:
+        return Preferences();
+      case Target::Properties:
+        return test::PropertyFileInput(random_);
+      case Target::AddressFile:
+        return test::AddressFileInput(random_);
+      case Target::AddressLists:
+        return test::AddressListInput(random_);
+      case Target::Contacts:
+        return test::ContactsInput(random_);
+      default:
+        return Text();
+    }
   }
 
  private:
@@ -181,9 +210,11 @@ bool Survives(const QByteArray& input, Target target) {
 
 bool RunRandom(int cases, unsigned seed) {
   constexpr int CasesToAFile = 100;  // a written file costs as much as many texts
+  const Array<Target> files{Target::Preferences, Target::Properties, Target::AddressFile};
+  const Array<Target> texts{Target::Texts, Target::AddressLists, Target::Contacts};
   Inputs inputs(seed);
   for (int i = 0; i < cases; ++i) {
-    const auto target = static_cast<Target>(i % CasesToAFile == 0 ? 1 + i / CasesToAFile % 2 : 0);
+    const Target target = i % CasesToAFile == 0 ? files[i / CasesToAFile % 3] : texts[i % 3];
     if (Survives(inputs.For(target), target)) continue;
     std::fprintf(stderr, "case %d of seed %u\n", i, seed);
     return false;
@@ -195,8 +226,8 @@ bool RunRandom(int cases, unsigned seed) {
 // The file does not say which reader it was made for; it must do no harm to any.
 bool Replay(const QByteArray& input) {
   bool survived = true;
-  for (const Target target : {Target::Texts, Target::Preferences, Target::Properties})
-    survived = Survives(input, target) && survived;
+  for (int target = 0; target < static_cast<int>(Target::Count); ++target)
+    survived = Survives(input, static_cast<Target>(target)) && survived;
   return survived;
 }
 
