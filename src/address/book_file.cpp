@@ -36,10 +36,13 @@ void RequireBook(const QString& path) {
             .arg(info.size()));
 }
 
-/// Cuts what a failed write left behind the end.  The failure has its own report.
-void CutBackTo(const QString& path, qsizetype length) {
-  const QString file = ResolvePath(path);
-  if (QFileInfo(file).size() > length) QFile::resize(file, length);
+/// After a write that failed: puts back what stood at `offset`, and the book's length.  The failure has its
+/// own report, so that another one here has none.
+void PutBack(const QString& path, qsizetype offset, const QByteArray& bytes, qsizetype length) {
+  QFile file(ResolvePath(path));
+  if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) return;
+  if (file.seek(offset)) file.write(bytes);
+  if (file.size() > length) file.resize(length);
 }
 
 }  // namespace
@@ -66,10 +69,6 @@ bool HasRecord(const QByteArray& book, int number, const QByteArray& record) {
   return number > 0 && OffsetOf(number) < book.size() && RecordBytesAt(book, number) == record;
 }
 
-bool RecordIsStill(const QString& path, int number, const QByteArray& record) {
-  return QFileInfo::exists(ResolvePath(path)) && HasRecord(ReadBook(path), number, record);
-}
-
 int AppendRecord(const QString& path, const QByteArray& record) {
   RequireBook(path);
   const qsizetype length = QFileInfo(ResolvePath(path)).size();  // 0 where there is no file yet
@@ -82,14 +81,23 @@ int AppendRecord(const QString& path, const QByteArray& record) {
   try {
     WriteAt(path, length + 1, QByteArray(gap, ' ') + record);
   } catch (const RuntimeError&) {
-    CutBackTo(path, length);
+    PutBack(path, length, {}, length);
     throw;
   }
   return static_cast<int>(number);
 }
 
-void OverwriteRecord(const QString& path, int number, const QByteArray& record) {
-  WriteAt(path, OffsetOf(number) + 1, record);
+bool OverwriteRecord(const QString& path, int number, const QByteArray& asRead, const QByteArray& record) {
+  if (!QFileInfo::exists(ResolvePath(path))) return false;
+  const QByteArray book = ReadBook(path);
+  if (!HasRecord(book, number, asRead)) return false;
+  try {
+    WriteAt(path, OffsetOf(number) + 1, record);
+  } catch (const RuntimeError&) {
+    PutBack(path, OffsetOf(number), book.mid(OffsetOf(number), RecordSize), book.size());
+    throw;
+  }
+  return true;
 }
 
 void RemoveRecord(const QString& path, const QByteArray& book, int number) {

@@ -22,14 +22,13 @@ void CreateBook(const QString& path);
 QByteArray RecordBytesAt(const QByteArray& book, int number);
 /// True when any byte of that record is in the book, and they are `record` with blanks behind.
 bool HasRecord(const QByteArray& book, int number, const QByteArray& record);
-/// The same of the book on disk; false where it is gone.
-bool RecordIsStill(const QString& path, int number, const QByteArray& record);
 
 /// Writes a record behind the last one and gives its number.  A part of a record at the end is filled up with
-/// blanks first and stays.  Throws 6 when the book is full.  After a failure the book is as long as it was.
+/// blanks first and stays.  Throws 6 when the book is full.  After a failure the book is as it was.
 int AppendRecord(const QString& path, const QByteArray& record);
-/// Writes record `number` over the one that is there.
-void OverwriteRecord(const QString& path, int number, const QByteArray& record);
+/// Writes record `number` over the one that is there; false where that one is not `asRead` any more.  After a
+/// failure the book is as it was.
+bool OverwriteRecord(const QString& path, int number, const QByteArray& asRead, const QByteArray& record);
 /// Replaces the book by itself without record `number`.
 void RemoveRecord(const QString& path, const QByteArray& book, int number);
 

@@ -71,10 +71,9 @@ void TakeMarksBack() {
 /// The number under which the record now stands in the file.
 int WriteRecord(const QByteArray& bytes) {
   const bool asNew = book.NewRecordFlag || book.NameChanged;
-  if (asNew || !RecordIsStill(BookPath(), book.CurrentRecord, book.RecordAsRead))
-    return AppendRecord(BookPath(), bytes);
-  OverwriteRecord(BookPath(), book.CurrentRecord, bytes);
-  return book.CurrentRecord;
+  if (!asNew && OverwriteRecord(BookPath(), book.CurrentRecord, book.RecordAsRead, bytes))
+    return book.CurrentRecord;
+  return AppendRecord(BookPath(), bytes);
 }
 
 void ReopenBook() {

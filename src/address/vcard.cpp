@@ -65,10 +65,12 @@ class LogicalLines {
   qsizetype at_ = 0;
 };
 
-/// A file of another encoding as UTF-8, without a mark in front.
+/// A file of another encoding as UTF-8, without the mark in front that tells the encoding.  UTF-8 itself is
+/// decoded by the line, since a fold may part a character, and some lines may be in the code page.
 QByteArray AsUtf8(const QByteArray& file) {
   const auto encoding = QStringConverter::encodingForData(file);
   if (!encoding) return file;
+  if (*encoding == QStringConverter::Utf8) return file.mid(3);
   QStringDecoder decoder(*encoding);
   const QString text = decoder(file);
   return text.toUtf8();

@@ -5,10 +5,9 @@
 
 namespace quillane::test {
 
-/// A book of these bytes opens, and each of its records can be looked at, saved and deleted without harm to
-/// another.
+/// A book of these bytes opens, and each of its records is saved without harm to another.
 void CheckAddressFile(const QByteArray& bytes);
-/// Both parsers give what the slow way gives, step by step.
+/// Both parsers take these bytes; the one with the shortcuts gives what the slow way gives, step by step.
 void CheckAddressLists(const QByteArray& bytes);
 /// A file of contacts is read, and a record that comes of it goes out and in again unchanged.
 void CheckContacts(const QByteArray& bytes);

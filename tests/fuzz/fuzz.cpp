@@ -95,8 +95,6 @@ void CheckPreferences(const QByteArray& file) {
   Require(prefs.PrefLines == lines, "the preferences read back");
 }
 
-enum class Target { Texts, Preferences, Properties, AddressFile, AddressLists, Contacts, Count };
-
 void CheckTexts(const QByteArray& bytes) {
   const QString text = FromCodePage(bytes);
   CheckNumberText(text);
@@ -108,47 +106,12 @@ void CheckTexts(const QByteArray& bytes) {
   CheckSingle(std::bit_cast<float>(bits * 2654435761U));
 }
 
-void CheckInput(const QByteArray& bytes, Target target) {
-  switch (target) {
-    case Target::Preferences:
-      return CheckPreferences(bytes);
-    case Target::Properties:
-      return test::CheckPropertyLanguage(bytes);
-    case Target::AddressFile:
-      return test::CheckAddressFile(bytes);
-    case Target::AddressLists:
-      return test::CheckAddressLists(bytes);
-    case Target::Contacts:
-      return test::CheckContacts(bytes);
-    default:
-      return CheckTexts(bytes);
-  }
-}
-
 /// Inputs that are nearly right find more than noise does: pieces of what the readers know, put together and
 /// damaged.
 class Inputs {
  public:
   explicit Inputs(unsigned seed) : random_(seed) {}
 
-  QByteArray For(Target target) {
-    switch (target) {
-      case Target::Preferences:
-        return Preferences();
-      case Target::Properties:
-        return test::PropertyFileInput(random_);
-      case Target::AddressFile:
-        return test::AddressFileInput(random_);
-      case Target::AddressLists:
-        return test::AddressListInput(random_);
-      case Target::Contacts:
-        return test::ContactsInput(random_);
-      default:
-        return Text();
-    }
-  }
-
- private:
   QByteArray Text() {
     static const QByteArrayList pieces = {
         "1",    "9",   "0.005",   ",",         ".",       "-",    "+",   "$",    "(",       ")", "e",
@@ -168,6 +131,9 @@ class Inputs {
     return Damaged(file);
   }
 
+  std::mt19937& Random() { return random_; }
+
+ private:
   qsizetype Below(qsizetype bound) {
     return static_cast<qsizetype>(random_() % static_cast<unsigned long>(bound));
   }
@@ -193,11 +159,25 @@ class Inputs {
   std::mt19937 random_;
 };
 
+/// A reader, and what is made for it.
+struct Target {
+  void (*check)(const QByteArray& input);
+  QByteArray (*make)(Inputs& inputs);
+};
+const Array<Target> textTargets{
+    {CheckTexts, [](Inputs& inputs) { return inputs.Text(); }},
+    {test::CheckAddressLists, [](Inputs& inputs) { return test::AddressListInput(inputs.Random()); }},
+    {test::CheckContacts, [](Inputs& inputs) { return test::ContactsInput(inputs.Random()); }}};
+const Array<Target> fileTargets{
+    {CheckPreferences, [](Inputs& inputs) { return inputs.Preferences(); }},
+    {test::CheckPropertyLanguage, [](Inputs& inputs) { return test::PropertyFileInput(inputs.Random()); }},
+    {test::CheckAddressFile, [](Inputs& inputs) { return test::AddressFileInput(inputs.Random()); }}};
+
 /// Says what failed and keeps the input for --replay.
-bool Survives(const QByteArray& input, Target target) {
+bool Survives(const QByteArray& input, const Target& target) {
   QByteArray why;
   try {
-    CheckInput(input, target);
+    target.check(input);
     return true;
   } catch (const std::exception& failure) {
     why = failure.what();
@@ -210,12 +190,11 @@ bool Survives(const QByteArray& input, Target target) {
 
 bool RunRandom(int cases, unsigned seed) {
   constexpr int CasesToAFile = 100;  // a written file costs as much as many texts
-  const Array<Target> files{Target::Preferences, Target::Properties, Target::AddressFile};
-  const Array<Target> texts{Target::Texts, Target::AddressLists, Target::Contacts};
   Inputs inputs(seed);
   for (int i = 0; i < cases; ++i) {
-    const Target target = i % CasesToAFile == 0 ? files[i / CasesToAFile % 3] : texts[i % 3];
-    if (Survives(inputs.For(target), target)) continue;
+    const Target& target = i % CasesToAFile == 0 ? fileTargets[i / CasesToAFile % fileTargets.size()]
+                                                 : textTargets[i % textTargets.size()];
+    if (Survives(target.make(inputs), target)) continue;
     std::fprintf(stderr, "case %d of seed %u\n", i, seed);
     return false;
   }
@@ -226,8 +205,8 @@ bool RunRandom(int cases, unsigned seed) {
 // The file does not say which reader it was made for; it must do no harm to any.
 bool Replay(const QByteArray& input) {
   bool survived = true;
-  for (int target = 0; target < static_cast<int>(Target::Count); ++target)
-    survived = Survives(input, static_cast<Target>(target)) && survived;
+  for (const auto* targets : {&textTargets, &fileTargets})
+    for (const Target& target : *targets) survived = Survives(input, target) && survived;
   return survived;
 }
 

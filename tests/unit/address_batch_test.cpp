@@ -10,186 +10,116 @@ class AddressBatch : public AddressBooks {
   void SetUp() override {
     AddressBooks::SetUp();
     OpenAddressBookCommand();
-    desk.said.clear();
   }
   void Begin(const QString& clipboard, ListType type = ListType::Commas) {
-    WillAnswer({Answer::Yes});
+    desk.answers.append(Answer::Yes);
     ImportBatchCommand();
     ChooseListType(type);
     desk.clipboard = clipboard;
-    BeginBatchProcess();
-  }
-  /// Boxes but for the questions about the book, since the last call.
-  QStringList Said() {
-    QStringList texts = Texts();
     desk.said.clear();
-    texts.removeIf([](const QString& text) { return text.contains(QLatin1String("Address Book")); });
-    return texts;
-  }
-  static QString Shown() {
-    QStringList texts;
-    for (const AddressField& txt : addressBook.txt) texts << txt.Text;
-    while (!texts.isEmpty() && texts.last().isEmpty()) texts.removeLast();
-    return texts.join(u'|');
+    BeginBatchProcess();
   }
 };
 
 TEST_F(AddressBatch, TheSetUpPanelFollowsItsQuestionsCategoriesAndTypes) {
-  WillAnswer({Answer::No, Answer::No, Answer::Cancel, Answer::No, Answer::Yes});
-  ImportBatchCommand();
-  ImportBatchCommand();
+  const char *instead = "Import the Records into the Business Address Book instead? Click Cancel to exit.",
+             *first = "This will save the Batch Records into the Personal Address Book. Continue?";
+  After(ImportBatchCommand, " new", instead, {Answer::No, Answer::No});
+  After(ImportBatchCommand, " new", first, {Answer::Cancel});
   EXPECT_FALSE(batch.SetUpShows);
-  ImportBatchCommand();
-  EXPECT_EQ(desk.LastSaid(),
-            "Import the Records into the Business Address Book instead? Click Cancel to exit.");
-  EXPECT_TRUE(batch.SetUpShows);
-  EXPECT_FALSE(AddressMenuEnabled("mnuFile"));
+  After(ImportBatchCommand, " new", instead, {Answer::No, Answer::Yes});
   EXPECT_EQ(addressBook.Caption, "Beginning Batch Import/Business Address Book");
-  EXPECT_EQ(addressBook.AddressFileName, "ComAdd.acx");
-  EXPECT_TRUE(batch.lblMain.endsWith(". You can quit at any time by pressing End Batch Process."));
-  EXPECT_EQ(batch.CategoryLast, 8);
-  ToggleCategory(category::Name);
+  EXPECT_TRUE(batch.SetUpShows && CurrentBook() == Book::Company && !AddressMenuEnabled("mnuFile"));
+  for (int i = 0; i < category::Email; ++i) ToggleCategory(i);
   EXPECT_EQ(desk.LastSaid(), "Name cannot be de-selected.");
-  for (int i = 2; i < category::Email; ++i) ToggleCategory(i);
-  EXPECT_EQ(batch.CategoryLast, 2);
-  const struct {
-    ListType type;
-    const char* sample;
-  } cases[] = {
-      {ListType::Lines,
-       "Company Name\r\nAddress 1\r\nEmail Address\r\n\r\nCompany Name\r\nAddress 1\r\nEmail "
-       "Address\r\n"},
-      {ListType::Tabs, "Company Name\tAddress 1\tEmail Address\r\nCompany Name\tAddress 1\tEmail Address"},
-      {ListType::MailProgram,
-       "First Name,Last Name,Middle Name,Name,Nickname,E-mail Address,etc.\r\nFirst "
-       "Name,Last Name,Middle Name,Name,Nickname,E-mail Address,etc."},
-      {ListType::Commas, "Company Name,Address 1,Email Address\r\nCompany Name,Address 1,Email Address"}};
-  for (const auto& c : cases) {
-    ChooseListType(c.type);
-    EXPECT_EQ(batch.txtSample, c.sample);
+  EXPECT_EQ(batch.CategoryLast, 1);
+  const QString samples[] = {"N\r\nE\r\n\r\nN\r\nE\r\n", "N,E\r\nN,E", "N\tE\r\nN\tE"};
+  for (const ListType type : {ListType::Lines, ListType::Commas, ListType::Tabs}) {
+    ChooseListType(type);
+    EXPECT_EQ(batch.txtSample.replace("Company Name", "N").replace("Email Address", "E"),
+              samples[static_cast<int>(type)]);
   }
-  ToggleCategory(category::Address1);
-  RefreshSampleCommand();
-  EXPECT_EQ(batch.txtSample, "Company Name,Email Address\r\nCompany Name,Email Address");
+  ChooseListType(ListType::MailProgram);
   ExitImport();
   EXPECT_TRUE(batch.CsvMode && !batch.SetUpShows && AddressMenuEnabled("mnuFile"));
-  WillAnswer({Answer::Yes});
+  desk.answers.append(Answer::Yes);
   ImportBatchCommand();
-  EXPECT_TRUE(batch.CategorySelected[category::Address1] && batch.optList == ListType::Lines);
+  EXPECT_TRUE(batch.CategoryLast == 8 && batch.optList == ListType::Lines);
   OpenAddressBookCommand();
   EXPECT_FALSE(batch.CsvMode || batch.SetUpShows) << "ended as by its Cancel";
 }
 
 TEST_F(AddressBatch, EachRecordIsSavedOrSkippedByHand) {
   Begin("Ann Bell,1 Elm\nBob,2 Fir\r,no name\nCher\tx,3 Oak");
-  EXPECT_TRUE(WalkPanelShows());
-  EXPECT_EQ(Shown(), "Ann Bell|1 Elm");
-  SetField(field::City, "Bend");
-  SaveBatchRecordCommand();
-  EXPECT_EQ(Shown(), "Bob|2 Fir");
+  After(SaveBatchRecordCommand, "Bob|2 Fir new renamed");
   EXPECT_FALSE(AddressMenuEnabled("mnuFileDelete"));
-  SkipBatchRecordCommand();
-  EXPECT_EQ(Shown(), "|no name");
-  SaveBatchRecordCommand();
-  EXPECT_EQ(Said(), QStringList{"Cannot save record... no name given."}) << "and moves on";
+  After(SkipBatchRecordCommand, "|no name new changed");
+  After(SaveBatchRecordCommand, "Cher\tx|3 Oak new renamed", "Cannot save record... no name given.");
   SetFaultHook([](const char*, const QString&) { return EROFS; });
-  SaveBatchRecordCommand();
-  EXPECT_EQ(Said().size(), 1);
-  EXPECT_EQ(Shown(), "Cher\tx|3 Oak") << "what could not be saved stays";
+  After(SaveBatchRecordCommand, "Cher\tx|3 Oak new renamed", "Error Number: 70");
   SetFaultHook(nullptr);
-  SaveBatchRecordCommand();
-  EXPECT_EQ(Said(), QStringList{"Batch Process Finished."});
+  After(SaveBatchRecordCommand, "Cher\tx|3 Oak #2", "Batch Process Finished.");
   EXPECT_FALSE(WalkPanelShows());
-  EXPECT_EQ(Names(), (QStringList{"Ann Bell", "Cher\tx"}));
-  EXPECT_EQ(GetBook().mid(120, 4), "Bend");
+  EXPECT_EQ(GetBook(), Record("Ann Bell", "1 Elm") + Record("Cher\tx", "3 Oak"));
 }
 
 TEST_F(AddressBatch, TheWalkKeepsItsRecordAndItsBook) {
   Begin("Ann Bell,1 Elm\r\nBob,2 Fir");
   SaveBatchRecordCommand();
-  WillAnswer({Answer::No});
-  ChooseNameCommand(0);
-  EXPECT_EQ(Shown(), "Ann Bell|1 Elm");
-  SetField(field::City, "Bend");
-  SaveBatchRecordCommand();
-  EXPECT_EQ(GetBook().mid(120, 4), "Bend");
-  EXPECT_EQ(Shown(), "Bob|2 Fir") << "once more";
+  After(Row(0), "Ann Bell|1 Elm #1 row 0", "Do you want to save the changes?", {Answer::No});
+  SetField(field::Address1, "Bend");
+  After(SaveBatchRecordCommand, "Bob|2 Fir new renamed");
   SwitchToCompanyBookCommand();
-  SkipBatchRecordCommand();
-  EXPECT_EQ(Shown(), "Bob|2 Fir");
-  EXPECT_EQ(addressBook.AddressFileName, "PerAdd.apx");
+  After(SkipBatchRecordCommand, "Bob|2 Fir new renamed");
   SaveBatchRecordCommand();
-  EXPECT_EQ(Names(), (QStringList{"Ann Bell", "Bob"}));
+  EXPECT_EQ(GetBook(), Record("Ann Bell", "Bend") + Record("Bob", "2 Fir"));
 }
 
 TEST_F(AddressBatch, AWalkWithNothingInItSaysSo) {
   const struct {
     ListType type;
-    const char* clipboard;
-    const char* said;
+    const char *clipboard, *said;
     int last;
   } cases[] = {{ListType::Commas, "", "There's nothing in the Clipboard Memory.", 0},
-               {ListType::Commas, "   ", "No more records to save.", -1},
                {ListType::Tabs, "AB", "No more records to save.", -1},
                {ListType::MailProgram, "", "There's nothing in memory to batch process.", 0},
                {ListType::MailProgram, "Name,x", "Error. No carriage returns found.", 0},
                {ListType::MailProgram, "Name,x\nlost", "No more records to save.", -1}};
   for (const auto& c : cases) {
     Begin(c.clipboard, c.type);
-    EXPECT_EQ(Said(), QStringList{c.said});
-    EXPECT_EQ(batch.BatchLastIndex, c.last) << c.clipboard;
-    EXPECT_TRUE(WalkPanelShows());
-    EXPECT_EQ(Shown(), "");
-    EndBatchCommand();
-    EXPECT_FALSE(batch.CsvMode || WalkPanelShows());
+    EXPECT_EQ(Texts(), QStringList{c.said});
+    EXPECT_TRUE(WalkPanelShows() && batch.BatchLastIndex == c.last) << c.clipboard;
+    After(EndBatchCommand, " new");
+    EXPECT_FALSE(WalkPanelShows() || batch.CsvMode);
   }
 }
 
 TEST_F(AddressBatch, BadLinesAreNamedAndTheRestIsWalked) {
-  const QString list = "Name,E-mail Address\n\"Ann,a@b\nBob,b@c\n";
-  WillAnswer({});
-  Begin(list, ListType::MailProgram);
+  Begin("Name,E-mail Address\n\"Ann,a@b\nBob,b@c\n", ListType::MailProgram);
   EXPECT_EQ(desk.said.last().title, "Bad data in some records.");
-  EXPECT_TRUE(desk.LastSaid().startsWith("The following records cound not be parsed...0\nand will"));
-  EXPECT_EQ(Shown(), "") << "No imports none";
-  EndBatchCommand();
-  WillAnswer({Answer::Yes, Answer::Yes});
-  ImportBatchCommand();
-  ChooseListType(ListType::MailProgram);
-  ChooseListType(ListType::Tabs);  // the samples of the tab type, and the parser of the other
-  BeginBatchProcess();
-  EXPECT_TRUE(desk.LastSaid().startsWith("The following records cound not be parsed...0, 0\n"));
-  EXPECT_EQ(Shown(), "");
-  SkipBatchRecordCommand();
-  EXPECT_EQ(Shown(), "Bob|||,||||||b@c");
+  EXPECT_EQ(Screen(), " new") << "No imports none";
+  ExitImport();
+  After(ImportBatchCommand, " new",
+        "This will save the Batch Records into the Personal Address Book. Continue?");
+  ChooseListType(ListType::Tabs);  // its sample, but still the other parser
+  After(BeginBatchProcess, " new", "The following records cound not be parsed...0, 0\nand will be excluded");
+  After(SkipBatchRecordCommand, "Bob|||,||||||b@c new renamed");
 }
 
 TEST_F(AddressBatch, AllRemainingRecordsAreSavedAfterOneQuestion) {
-  const auto begin = [this] {
-    Begin("Ann Bell,1\nBob,2\n,no name\n  Cher,4\nDan,5");
-    SkipBatchRecordCommand();
-    SetField(field::City, "Bend");
-    desk.said.clear();
-    WillAnswer({Answer::Yes});
+  const auto save = [](int most) {
+    return [most] { SaveAllRemainingCommand([most](int done, int) { return done < most; }); };
   };
-  begin();
-  SaveAllRemainingCommand([](int done, int) { return done < 2; });
-  EXPECT_EQ(desk.LastSaid(), "Save all 4 remaining records without looking at each?");
-  EXPECT_EQ(Names(), QStringList{"Bob"});
-  EXPECT_EQ(Shown(), "Cher|4") << "stopped by hand";
+  Begin("Ann Bell,1\nBob,2\n,no name\n  Cher,4\nDan,5");
+  SkipBatchRecordCommand();
+  SetField(field::Address1, "as typed");
+  After(save(2), "Cher|4 new renamed", "Save all 4 remaining records without looking at each?");
   SetFaultHook([](const char*, const QString&) { return ENOSPC; });
-  WillAnswer({Answer::Yes});
-  SaveAllRemainingCommand([](int, int) { return true; });
-  EXPECT_EQ(Shown(), "Cher|4");
+  After(save(9), "Cher|4 new renamed", "Error Number: 61");
   SetFaultHook(nullptr);
-  EndBatchCommand();
-  PutBook("");
-  begin();
-  SaveAllRemainingCommand([](int, int total) { return total == 4; });
-  EXPECT_EQ(desk.LastSaid(), "Batch Process Finished.\n3 records saved. 1 without a name passed over.");
-  EXPECT_EQ(GetBook().mid(120, 4), "Bend") << "the record on the screen goes as it was typed";
-  EXPECT_EQ(Rows(), "Bob|Cher|Dan");
-  EXPECT_FALSE(WalkPanelShows());
+  After(save(9), " new", "Batch Process Finished.\n2 records saved.");
+  EXPECT_EQ(GetBook(), Record("Bob", "as typed") + Record("Cher", "4") + Record("Dan", "5"));
+  EXPECT_TRUE(addressBook.lstNames.ListCount() == 3 && !WalkPanelShows());
 }
 
 }  // namespace
