@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "address.h"
 #include "samples.h"
 #include "start.h"
 #include "work.h"
@@ -20,5 +21,6 @@ int main(int argc, char** argv) {
   PrintHeading();
   MeasureStarts(times);
   MeasureWork(times);
+  MeasureAddressBook(times);
   return 0;
 }

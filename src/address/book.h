@@ -4,8 +4,8 @@
 #include <QByteArray>
 #include <QSet>
 #include <QString>
-#include <vector>
 
+#include "address/names.h"
 #include "address/record.h"
 #include "ui/font.h"
 
@@ -19,13 +19,13 @@ struct AddressField {
   QString ToolTipText;
 };
 
-/// lstNames.  Its rows are what ListText gives, sorted.
+/// lstNames.
 struct NameList {
-  std::vector<QByteArray> rows;
+  NameRows rows;
   int revision = 0;  ///< counts the fillings, so that a view knows when to begin anew
   int ListIndex = -1, TopIndex = 0;
   bool Visible = true;
-  int ListCount() const { return static_cast<int>(rows.size()); }
+  int ListCount() const { return rows.Count(); }
 };
 
 struct AddressBook {

@@ -61,6 +61,17 @@ void CreateBook(const QString& path) {
   if (!QFileInfo::exists(ResolvePath(path))) WriteAt(path, 1, QByteArray());
 }
 
+QByteArray ReadRecord(const QString& path, int number) {
+  RequireBook(path);
+  QFile file(ResolvePath(path));
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    return RecordBytesAt(ReadBook(path), number);  // which says why, where it cannot be read either
+  file.seek(OffsetOf(number));
+  const QByteArray record = file.read(RecordSize);
+  if (file.error() != QFileDevice::NoError) Raise(errors::PathFileAccess, path);
+  return record.leftJustified(RecordSize, ' ');
+}
+
 QByteArray RecordBytesAt(const QByteArray& book, int number) {
   return book.mid(OffsetOf(number), RecordSize).leftJustified(RecordSize, ' ');
 }

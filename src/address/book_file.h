@@ -18,6 +18,8 @@ QByteArray ReadBook(const QString& path);
 /// Makes the file where there is none.
 void CreateBook(const QString& path);
 
+/// One record of it, as RecordBytesAt gives it.  Throws as ReadBook does.
+QByteArray ReadRecord(const QString& path, int number);
 /// Record `number`, counted from 1, as 520 bytes; blanks where the book has none.
 QByteArray RecordBytesAt(const QByteArray& book, int number);
 /// True when any byte of that record is in the book, and they are `record` with blanks behind.

@@ -3,7 +3,6 @@
 
 #include "address/book.h"
 #include "address/book_file.h"
-#include "address/names.h"
 #include "model/proposal.h"
 #include "model/report.h"
 #include "platform/files.h"
@@ -21,22 +20,19 @@ struct RowPlace {
   int Occurrence = 1;
 };
 
-const QByteArray& RowText(int row) {
-  return book.lstNames.rows[static_cast<size_t>(row)];
-}
-
 RowPlace PlaceOf(int row) {
-  RowPlace place{RowText(row)};
-  for (; row > 0 && RowText(row - 1) == place.text; --row) ++place.Occurrence;
+  const NameRows& rows = book.lstNames.rows;
+  RowPlace place{rows[row].toByteArray()};
+  for (; row > 0 && rows[row - 1] == place.text; --row) ++place.Occurrence;
   return place;
 }
 
 /// The row of that place, or -1.
 int RowOf(const RowPlace& place) {
-  const std::vector<QByteArray>& rows = book.lstNames.rows;
-  const auto first = std::find(rows.begin(), rows.end(), place.text);
-  const auto row = static_cast<int>(first - rows.begin()) + place.Occurrence - 1;
-  return row < book.lstNames.ListCount() && RowText(row) == place.text ? row : -1;
+  int left = place.Occurrence;
+  for (int row = 0; row < book.lstNames.ListCount(); ++row)
+    if (book.lstNames.rows[row] == place.text && --left == 0) return row;
+  return -1;
 }
 
 void SelectRow(int row) {

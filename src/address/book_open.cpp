@@ -4,7 +4,6 @@
 #include "address/book.h"
 #include "address/book_file.h"
 #include "address/book_window.h"
-#include "address/names.h"
 #include "model/proposal.h"
 #include "model/report.h"
 #include "platform/files.h"
@@ -90,7 +89,7 @@ QString LabelOf(Book book, int index) {
 
 void EmptyNameList() {
   NameList& list = addressBook.lstNames;
-  list.rows.clear();
+  list.rows.Clear();
   list.ListIndex = addressBook.SelectedListIndex = -1;
   ++list.revision;
 }
@@ -146,11 +145,11 @@ void FillNameList(const QByteArray& bytes) {
   EmptyNameList();
   const int count = std::min(book.RecordCount, MostRecords);
   const QByteArray padded = bytes.leftJustified(static_cast<qsizetype>(count) * RecordSize, ' ');
-  std::vector<QByteArray>& rows = book.lstNames.rows;
-  rows.reserve(static_cast<size_t>(count));
+  NameRows& rows = book.lstNames.rows;
+  rows.Reserve(count);
   for (qsizetype offset = 0; offset < static_cast<qsizetype>(count) * RecordSize; offset += RecordSize)
-    rows.push_back(ListText(CurrentBook(), QByteArrayView(padded).sliced(offset, FieldWidth(field::Name))));
-  SortNames(rows);
+    rows.Add(CurrentBook(), QByteArrayView(padded).sliced(offset, FieldWidth(field::Name)));
+  rows.Sort();
   book.lstNames.TopIndex = std::clamp(book.lstNames.TopIndex, 0, std::max(0, count - 1));
   book.Caption = book.BookTitle + book.txt[field::Name].Text;
   if (book.RecordCount > MostRecords)

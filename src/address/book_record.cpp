@@ -124,7 +124,7 @@ FieldTexts TextsOnScreen() {
 
 void ShowRecord() {
   try {
-    book.RecordAsRead = RecordBytesAt(ReadBook(BookPath()), book.CurrentRecord);
+    book.RecordAsRead = ReadRecord(BookPath(), book.CurrentRecord);
     book.WalkRecordShows = false;
     LoadFields();
     TakeMarksBack();

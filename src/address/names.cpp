@@ -14,11 +14,40 @@ namespace {
 // found by the same forms, and the comma stays with the name.
 constexpr std::array<QByteArrayView, 3> Suffixes = {" JR.", " SR.", " II"};
 
-QByteArray PersonText(QByteArrayView storedName) {
+/// -1 where there is none.  Each suffix begins with a blank, and a small letter is 32 above its capital.
+qsizetype PlaceOfSuffix(QByteArrayView name, QByteArrayView suffix) {
+  const auto same = [](char capital, char c) {
+    return c == capital || (capital >= 'A' && c == capital + ('a' - 'A'));
+  };
+  for (qsizetype at = 0; (at = name.indexOf(' ', at)) >= 0 && at + suffix.size() <= name.size(); ++at)
+    if (std::equal(suffix.begin(), suffix.end(), name.begin() + at, same)) return at;
+  return -1;
+}
+
+/// A quick look, since few names have one.
+bool MayHaveSuffix(QByteArrayView name) {
+  const auto begins = [](char blank, char letter) {
+    const char small = static_cast<char>(letter | 0x20);
+    return blank == ' ' && (small == 'j' || small == 's' || small == 'i');
+  };
+  return std::adjacent_find(name.begin(), name.end(), begins) != name.end();
+}
+
+void AppendPersonText(QByteArray& texts, QByteArrayView storedName) {
   const PersonNameParts parts = PartsOfName(storedName);
-  if (parts.first.isEmpty()) return parts.last.isEmpty() ? QByteArray(" ") : parts.last.toByteArray();
-  QByteArray text = parts.last.toByteArray();
-  return text.append(parts.suffix).append(", ").append(parts.first);
+  if (!parts.first.isEmpty()) {
+    texts.append(parts.last).append(parts.suffix).append(", ").append(parts.first);
+  } else {
+    texts.append(parts.last.isEmpty() ? QByteArrayView(" ") : parts.last);
+  }
+}
+
+void AppendListText(QByteArray& texts, Book book, QByteArrayView storedName) {
+  if (book == Book::Company) {
+    texts.append(storedName);
+  } else {
+    AppendPersonText(texts, storedName);
+  }
 }
 
 QByteArray PersonKey(const QByteArray& text) {
@@ -30,40 +59,52 @@ QByteArray PersonKey(const QByteArray& text) {
   return text.mid(comma + 2) + ' ' + text.left(comma);
 }
 
-/// The capital letter without its accent.
-char SortByte(char byte) {
-  const QByteArray upper = UpperCaseBytes(QByteArrayView(&byte, 1));
-  const QString parts = FromCodePage(upper).normalized(QString::NormalizationForm_D);
-  return parts.size() > 1 ? ToCodePage(parts.left(1))[0] : upper[0];
-}
+// Most names differ in their beginnings, which compare as one number.
+constexpr qsizetype BeginningLength = sizeof(quint64);
 
-QByteArray SortKey(const QByteArray& name) {
-  static const auto table = [] {
-    std::array<char, 256> bytes{};
-    for (int i = 0; i < 256; ++i) bytes[static_cast<size_t>(i)] = SortByte(static_cast<char>(i));
+/// How bytes are sorted: each by its capital letter without an accent.
+using SortTable = std::array<uchar, 256>;
+
+const SortTable& TheSortTable() {
+  static const SortTable table = [] {
+    SortTable bytes{};
+    for (int i = 0; i < 256; ++i) {
+      const char letter = static_cast<char>(i);
+      const QByteArray upper = UpperCaseBytes(QByteArrayView(&letter, 1));
+      const QString parts = FromCodePage(upper).normalized(QString::NormalizationForm_D);
+      const char plain = parts.size() > 1 ? ToCodePage(parts.left(1))[0] : upper[0];
+      bytes[static_cast<size_t>(i)] = static_cast<uchar>(plain);
+    }
     return bytes;
   }();
-  QByteArray key(name.size(), Qt::Uninitialized);
-  std::transform(name.begin(), name.end(), key.begin(),
-                 [](char c) { return table[static_cast<unsigned char>(c)]; });
-  return key;
+  return table;
 }
 
-struct SortRow {
-  QByteArray key, name;
-  bool operator<(const SortRow& other) const {
-    const int order = key.compare(other.key);
-    return order != 0 ? order < 0 : name < other.name;
+quint64 BeginningOf(QByteArrayView name, const SortTable& table) {
+  quint64 beginning = 0;
+  for (qsizetype i = 0; i < BeginningLength; ++i)
+    beginning = beginning << 8 | (i < name.size() ? table[static_cast<uchar>(name[i])] : 0U);
+  return beginning;
+}
+
+/// Of two names whose beginnings are alike.
+bool StandsBefore(QByteArrayView a, QByteArrayView b, const SortTable& table) {
+  const qsizetype common = std::min(a.size(), b.size());
+  for (qsizetype i = BeginningLength; i < common; ++i) {
+    const int order = table[static_cast<uchar>(a[i])] - table[static_cast<uchar>(b[i])];
+    if (order != 0) return order < 0;
   }
-};
+  return a.size() != b.size() ? a.size() < b.size() : a < b;
+}
 
 }  // namespace
 
 PersonNameParts PartsOfName(QByteArrayView storedName) {
   QByteArrayView name = TrimmedBytes(storedName), taken;
-  const QByteArray upper = UpperCaseBytes(name);
+  const bool mayHave = MayHaveSuffix(name);
   for (const QByteArrayView suffix : Suffixes) {
-    const qsizetype at = QByteArrayView(upper).first(name.size()).indexOf(suffix);
+    if (!mayHave) break;
+    const qsizetype at = PlaceOfSuffix(name, suffix);
     if (at < 0) continue;
     taken = name.sliced(at);
     name = TrimmedBytes(name.first(at + 1));
@@ -74,7 +115,9 @@ PersonNameParts PartsOfName(QByteArrayView storedName) {
 }
 
 QByteArray ListText(Book book, QByteArrayView storedName) {
-  return book == Book::Company ? storedName.toByteArray() : PersonText(storedName);
+  QByteArray text;
+  AppendListText(text, book, storedName);
+  return text;
 }
 
 QByteArray KeyOf(Book book, const QByteArray& listText) {
@@ -82,12 +125,41 @@ QByteArray KeyOf(Book book, const QByteArray& listText) {
   return key.leftJustified(FieldWidth(field::Name), ' ');
 }
 
-void SortNames(std::vector<QByteArray>& names) {
-  std::vector<SortRow> rows;
-  rows.reserve(names.size());
-  for (const QByteArray& name : names) rows.push_back({SortKey(name), name});
-  std::sort(rows.begin(), rows.end());
-  std::transform(rows.begin(), rows.end(), names.begin(), [](SortRow& row) { return std::move(row.name); });
+void NameRows::Clear() {
+  texts_.clear();
+  rows_.clear();
+}
+
+void NameRows::Reserve(int count) {
+  texts_.reserve(static_cast<qsizetype>(count) * (FieldWidth(field::Name) + 1));
+  rows_.reserve(static_cast<size_t>(count));
+}
+
+void NameRows::Add(Book book, QByteArrayView storedName) {
+  const qsizetype start = texts_.size();
+  AppendListText(texts_, book, storedName);
+  rows_.push_back({start, texts_.size() - start});
+}
+
+void NameRows::Sort() {
+  struct Place {
+    quint64 beginning;
+    Row row;
+  };
+  const SortTable& table = TheSortTable();
+  std::vector<Place> order;
+  order.reserve(rows_.size());
+  for (const Row row : rows_) order.push_back({BeginningOf(TextOf(row), table), row});
+  std::sort(order.begin(), order.end(), [&](const Place& a, const Place& b) {
+    if (a.beginning != b.beginning) return a.beginning < b.beginning;
+    return StandsBefore(TextOf(a.row), TextOf(b.row), table);
+  });
+  std::transform(order.begin(), order.end(), rows_.begin(), [](const Place& place) { return place.row; });
+}
+
+QByteArrayView NameRows::operator[](int row) const {
+  RequireIndex(row, Count());
+  return TextOf(rows_[static_cast<size_t>(row)]);
 }
 
 }  // namespace quillane

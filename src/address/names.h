@@ -24,7 +24,27 @@ QByteArray ListText(Book book, QByteArrayView storedName);
 /// as "Cher".  Throws 5 for a person's row that ends in its comma.
 QByteArray KeyOf(Book book, const QByteArray& listText);
 
-/// Sorts without regard to case and accents, character by character; what is alike then stands by its bytes.
-void SortNames(std::vector<QByteArray>& names);
+/// The rows of a list of names, as ListText gives them.  They lie one behind the other in one text, since a
+/// list of 32,767 is filled anew after every save.
+class NameRows {
+ public:
+  void Clear();
+  void Reserve(int count);
+  void Add(Book book, QByteArrayView storedName);
+  /// Sorts without regard to case and accents, character by character; what is alike then stands by its
+  /// bytes.
+  void Sort();
+  int Count() const { return static_cast<int>(rows_.size()); }
+  /// Throws 9.
+  QByteArrayView operator[](int row) const;
+
+ private:
+  struct Row {
+    qsizetype start = 0, length = 0;
+  };
+  QByteArrayView TextOf(Row row) const { return QByteArrayView(texts_).sliced(row.start, row.length); }
+  QByteArray texts_;
+  std::vector<Row> rows_;
+};
 
 }  // namespace quillane

@@ -32,10 +32,13 @@ TEST(AddressNames, APersonIsListedByTheLastNameAndFoundAgainByIt) {
     EXPECT_EQ(KeyOrError(row), c.key == "5" ? c.key : c.key.leftJustified(40));
     EXPECT_EQ(KeyOf(Book::Company, ListText(Book::Company, c.stored)), c.stored.leftJustified(40));
   }
-  std::vector<QByteArray> names{"b", "\xC9mile B", "Emile A", "emile b", "Z", "\xFF", "a", "a ", "A"};
-  SortNames(names);
-  EXPECT_EQ(QByteArrayList(names.begin(), names.end()).join('|'),
-            "A|a|a |b|Emile A|emile b|\xC9mile B|\xFF|Z");
+  NameRows rows;
+  for (const char* name : {"b", "\xC9mile Bo", "Emile Ann", "emile bo", "Z", "\xFF", "a", "a ", "A"})
+    rows.Add(Book::Company, name);
+  rows.Sort();
+  QByteArray sorted;
+  for (int row = 0; row < rows.Count(); ++row) sorted += rows[row].toByteArray() + '|';
+  EXPECT_EQ(sorted, "A|a|a |b|Emile Ann|emile bo|\xC9mile Bo|\xFF|Z|");
 }
 
 TEST(AddressNames, ARecordIsCutAndPaddedToItsFields) {
