@@ -45,6 +45,8 @@ struct AddressBook {
 
   // The window.
   bool AddressBookOpen = false;
+  bool CompanyInfoMode = false;  ///< the window edits the business's own details
+  bool CompanyInfoChanged = false;
   QString Caption;
   FixedArray<AddressField, field::Count> txt;
   FixedArray<QString, field::Count> lblInfo;

@@ -4,6 +4,7 @@
 #include "address/book.h"
 #include "address/book_file.h"
 #include "address/book_window.h"
+#include "address/company_info.h"
 #include "model/proposal.h"
 #include "model/report.h"
 #include "platform/files.h"
@@ -123,7 +124,8 @@ bool OpenCompanyBook() {
 }
 
 void SetBookLabels() {
-  for (int i = 0; i < field::Count; ++i) addressBook.lblInfo[i] = LabelOf(CurrentBook(), i);
+  for (int i = 0; i < field::Count; ++i)
+    addressBook.lblInfo[i] = addressBook.CompanyInfoMode ? CompanyInfoLabel(i) : LabelOf(CurrentBook(), i);
 }
 
 void LoadBook() {

@@ -19,6 +19,10 @@ AddressBook& book = addressBook;
 /// txt_Change.
 void TextChanged(int index) {
   if (book.FieldsClearing) return;
+  if (book.CompanyInfoMode) {
+    book.CompanyInfoChanged = true;
+    return;
+  }
   if (!TrimBlanks(book.txt[field::Name].Text).isEmpty()) {
     EnableTextChangeMenuOptions();
     EnableMerges();

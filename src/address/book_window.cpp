@@ -4,6 +4,7 @@
 
 #include "address/batch.h"
 #include "address/book.h"
+#include "address/company_info.h"
 #include "model/report.h"
 #include "ui/desk.h"
 
@@ -44,6 +45,9 @@ void SwitchTo(const char* command, Open&& open) {
 }  // namespace
 
 void OpenAddressBookCommand() {
+  if (book.CompanyInfoMode)
+    return Tell(
+        QStringLiteral("The Company Information Window must be closed before you open the Address Book."));
   Guarded("mnuFileOpenAddressBook_Click", [] {
     if (!MayLeaveRecord()) return;
     CancelImport();
@@ -102,6 +106,7 @@ void DeleteRecordCommand() {
 }
 
 SaveResult SaveRecordCommand() {
+  if (book.CompanyInfoMode) return SaveCompanyInfo() ? SaveResult::Saved : SaveResult::Failed;
   for (AddressField& txt : book.txt) txt.SelLength = 0;
   return SaveRecord();
 }

@@ -26,6 +26,7 @@ void SwitchToPersonalBookCommand();
 void SwitchToCompanyBookCommand();
 void NewRecordCommand();
 void DeleteRecordCommand();
+/// mnuFileSave and cmdSave; in the window of the business's own details, SaveCompanyInfo.
 SaveResult SaveRecordCommand();
 void FindCommand();
 void FindAgainCommand();

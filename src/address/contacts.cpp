@@ -5,6 +5,7 @@
 #include "address/book.h"
 #include "address/book_file.h"
 #include "model/report.h"
+#include "model/strip.h"
 #include "platform/files.h"
 
 namespace quillane {
@@ -41,21 +42,21 @@ void ImportContactsCommand(const QString& path) {
   });
 }
 
-std::optional<int> ExportContactsCommand(const QString& path) {
-  int contacts = 0;
-  const bool written = Guarded("ExportContacts", [&] {
+void ExportContactsCommand(const QString& path) {
+  Guarded("ExportContacts", [&path] {
     const QByteArray bytes = ReadBook(BookPath());
     QByteArray cards;
+    int contacts = 0;
     for (int number = 1; number <= CountRecords(bytes.size()); ++number) {
       const FieldTexts texts = TextsOf(RecordFromBytes(RecordBytesAt(bytes, number)));
       const QByteArray card = ContactOf(texts, CurrentBook());
-      if (card.isEmpty()) continue;
       cards += card;
-      ++contacts;
+      if (!card.isEmpty()) ++contacts;
     }
     ReplaceFile(path, cards);
+    TellInStatusBar(QStringLiteral("%1 contacts were written to ").arg(contacts) +
+                    QFileInfo(path).fileName());
   });
-  return written ? std::optional(contacts) : std::nullopt;
 }
 
 }  // namespace quillane

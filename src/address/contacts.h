@@ -1,7 +1,5 @@
 // Records of a book as contacts of other programs, and the way back.
 #pragma once
-#include <optional>
-
 #include "address/batch.h"
 #include "address/record.h"
 #include "address/vcard.h"
@@ -18,8 +16,7 @@ QByteArray ContactOf(const FieldTexts& texts, Book book);
 ReadyRecords ReadContacts(const QString& path, Book book);
 /// Walks the records of a contact file, after the questions of a batch import.
 void ImportContactsCommand(const QString& path);
-/// Writes the open book as one contact file, and gives the number of contacts; nothing when that failed,
-/// which has been reported.
-std::optional<int> ExportContactsCommand(const QString& path);
+/// Writes the open book as one contact file, and says in the status bar how many contacts it has.
+void ExportContactsCommand(const QString& path);
 
 }  // namespace quillane

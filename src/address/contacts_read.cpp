@@ -192,7 +192,7 @@ FieldTexts FieldsOfContact(const VCard& card, Book book) {
   texts[field::Contact] = names.contact;
   TakeAddress(card, book, texts);
   QStringList notes;
-  for (const VCardProperty& note : All(card, "NOTE")) notes << PlainText(note.value).replace(u'\n', CrLf);
+  for (const VCardProperty& note : All(card, "NOTE")) notes << WithCrLf(PlainText(note.value));
   if (!names.company.isEmpty()) notes << QStringLiteral("Company: ") + names.company;
   notes << TakePhones(card, book, texts) << TakeEmails(card, texts);
   texts[field::EventDate] = EventDate(card);

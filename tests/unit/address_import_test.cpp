@@ -1,3 +1,4 @@
+#include "address/contacts.h"
 #include "address_fixture.h"
 
 using namespace quillane;
@@ -5,7 +6,7 @@ using namespace quillane::test;
 
 namespace {
 
-class AddressBatch : public AddressBooks {
+class AddressImport : public AddressBooks {
  protected:
   void SetUp() override {
     AddressBooks::SetUp();
@@ -21,35 +22,30 @@ class AddressBatch : public AddressBooks {
   }
 };
 
-TEST_F(AddressBatch, TheSetUpPanelFollowsItsQuestionsCategoriesAndTypes) {
-  const char *instead = "Import the Records into the Business Address Book instead? Click Cancel to exit.",
-             *first = "This will save the Batch Records into the Personal Address Book. Continue?";
+TEST_F(AddressImport, TheSetUpPanelFollowsItsQuestionsCategoriesAndTypes) {
+  const char* instead = "Import the Records into the Business Address Book instead? Click Cancel to exit.";
   After(ImportBatchCommand, " new", instead, {Answer::No, Answer::No});
-  After(ImportBatchCommand, " new", first, {Answer::Cancel});
   EXPECT_FALSE(batch.SetUpShows);
   After(ImportBatchCommand, " new", instead, {Answer::No, Answer::Yes});
   EXPECT_EQ(addressBook.Caption, "Beginning Batch Import/Business Address Book");
   EXPECT_TRUE(batch.SetUpShows && CurrentBook() == Book::Company && !AddressMenuEnabled("mnuFile"));
   for (int i = 0; i < category::Email; ++i) ToggleCategory(i);
   EXPECT_EQ(desk.LastSaid(), "Name cannot be de-selected.");
-  EXPECT_EQ(batch.CategoryLast, 1);
   const QString samples[] = {"N\r\nE\r\n\r\nN\r\nE\r\n", "N,E\r\nN,E", "N\tE\r\nN\tE"};
-  for (const ListType type : {ListType::Lines, ListType::Commas, ListType::Tabs}) {
-    ChooseListType(type);
-    EXPECT_EQ(batch.txtSample.replace("Company Name", "N").replace("Email Address", "E"),
-              samples[static_cast<int>(type)]);
+  for (int type = 0; type < 3; ++type) {
+    ChooseListType(ListType(type));
+    EXPECT_EQ(batch.txtSample.replace("Company Name", "N").replace("Email Address", "E"), samples[type]);
   }
   ChooseListType(ListType::MailProgram);
   ExitImport();
-  EXPECT_TRUE(batch.CsvMode && !batch.SetUpShows && AddressMenuEnabled("mnuFile"));
-  desk.answers.append(Answer::Yes);
-  ImportBatchCommand();
+  EXPECT_TRUE(batch.CsvMode && batch.CategoryLast == 1 && AddressMenuEnabled("mnuFile"));
+  After(ImportBatchCommand, " new", "This will save the Batch Records into the Business Address Book.");
   EXPECT_TRUE(batch.CategoryLast == 8 && batch.optList == ListType::Lines);
   OpenAddressBookCommand();
   EXPECT_FALSE(batch.CsvMode || batch.SetUpShows) << "ended as by its Cancel";
 }
 
-TEST_F(AddressBatch, EachRecordIsSavedOrSkippedByHand) {
+TEST_F(AddressImport, EachRecordIsSavedOrSkippedByHand) {
   Begin("Ann Bell,1 Elm\nBob,2 Fir\r,no name\nCher\tx,3 Oak");
   After(SaveBatchRecordCommand, "Bob|2 Fir new renamed");
   EXPECT_FALSE(AddressMenuEnabled("mnuFileDelete"));
@@ -63,7 +59,7 @@ TEST_F(AddressBatch, EachRecordIsSavedOrSkippedByHand) {
   EXPECT_EQ(GetBook(), Record("Ann Bell", "1 Elm") + Record("Cher\tx", "3 Oak"));
 }
 
-TEST_F(AddressBatch, TheWalkKeepsItsRecordAndItsBook) {
+TEST_F(AddressImport, TheWalkKeepsItsRecordAndItsBook) {
   Begin("Ann Bell,1 Elm\r\nBob,2 Fir");
   SaveBatchRecordCommand();
   After(Row(0), "Ann Bell|1 Elm #1 row 0", "Do you want to save the changes?", {Answer::No});
@@ -75,7 +71,7 @@ TEST_F(AddressBatch, TheWalkKeepsItsRecordAndItsBook) {
   EXPECT_EQ(GetBook(), Record("Ann Bell", "Bend") + Record("Bob", "2 Fir"));
 }
 
-TEST_F(AddressBatch, AWalkWithNothingInItSaysSo) {
+TEST_F(AddressImport, AWalkWithNothingInItSaysSo) {
   const struct {
     ListType type;
     const char *clipboard, *said;
@@ -94,19 +90,18 @@ TEST_F(AddressBatch, AWalkWithNothingInItSaysSo) {
   }
 }
 
-TEST_F(AddressBatch, BadLinesAreNamedAndTheRestIsWalked) {
+TEST_F(AddressImport, BadLinesAreNamedAndTheRestIsWalked) {
   Begin("Name,E-mail Address\n\"Ann,a@b\nBob,b@c\n", ListType::MailProgram);
   EXPECT_EQ(desk.said.last().title, "Bad data in some records.");
   EXPECT_EQ(Screen(), " new") << "No imports none";
   ExitImport();
-  After(ImportBatchCommand, " new",
-        "This will save the Batch Records into the Personal Address Book. Continue?");
+  After(ImportBatchCommand, " new", "This will save the Batch Records into the Personal Address Book.");
   ChooseListType(ListType::Tabs);  // its sample, but still the other parser
   After(BeginBatchProcess, " new", "The following records cound not be parsed...0, 0\nand will be excluded");
   After(SkipBatchRecordCommand, "Bob|||,||||||b@c new renamed");
 }
 
-TEST_F(AddressBatch, AllRemainingRecordsAreSavedAfterOneQuestion) {
+TEST_F(AddressImport, AllRemainingRecordsAreSavedAfterOneQuestion) {
   const auto save = [](int most) {
     return [most] { SaveAllRemainingCommand([most](int done, int) { return done < most; }); };
   };
@@ -120,6 +115,56 @@ TEST_F(AddressBatch, AllRemainingRecordsAreSavedAfterOneQuestion) {
   After(save(9), " new", "Batch Process Finished.\n2 records saved.");
   EXPECT_EQ(GetBook(), Record("Bob", "as typed") + Record("Cher", "4") + Record("Dan", "5"));
   EXPECT_TRUE(addressBook.lstNames.ListCount() == 3 && !WalkPanelShows());
+}
+
+TEST_F(AddressImport, CardsOfManyKindsAreRead) {
+  const struct {
+    Book book;
+    const char* fields;  ///< up to the last that is filled, a line break as "/"
+  } cases[] = {{Book::Personal,
+                "Ann Bell|1 Elm|Unit 2|Bend, OR 97701|+1-541 x12|3|1|Jun 19,2027|Ruth|a@b|"
+                "one, two/three/Email: b@c"},
+               {Book::Personal,
+                "Dr. Ann Mary Bell Jr.|1 Elm|back, Floor 3, 7|Paris 75001, France|1||||||"
+                "folded é/Company: Pine/Phone: 2"},
+               {Book::Personal, "Zoë Löwe =||||||1||||café =4/Fax: 2"},
+               {Book::Personal, "Zoë||||||||||Company: y;z"},
+               {Book::Company, "Pine|c||d|1|2|||Tess Lam"},
+               {Book::Personal, "and none here No end above|||||||||a@b"}};
+  const std::vector<VCard> cards = ReadVCards(ReadWholeFile(QUILLANE_TEST_DATA "/contacts.vcf"));
+  ASSERT_EQ(cards.size(), std::size(cases));
+  for (size_t i = 0; i < cards.size(); ++i) {
+    const FieldTexts texts = FieldsOfContact(cards[i], cases[i].book);
+    QString joined = QStringList(texts.begin(), texts.end()).join(u'|').replace("\r\n", "/");
+    while (joined.endsWith(u'|')) joined.chop(1);
+    EXPECT_EQ(joined.toStdString(), cases[i].fields);
+  }
+}
+
+TEST_F(AddressImport, AWrittenCardIsFoldedAndSplitsItsName) {
+  FieldTexts texts;
+  texts[field::Name] = "John Doe, JR.";
+  texts[field::Notes] = "a;b\r\n" + QString(40, QChar(0xEB));
+  const QByteArray e("\xC3\xAB");
+  EXPECT_EQ(ContactOf(texts, Book::Personal),
+            "BEGIN:VCARD\r\nVERSION:4.0\r\nKIND:individual\r\nFN:John Doe\\, JR.\r\nN:Doe;John;;;JR.\r\n"
+            "NOTE:a\\;b\\n" +
+                e.repeated(32) + "\r\n " + e.repeated(8) + "\r\nEND:VCARD\r\n");
+}
+
+TEST_F(AddressImport, ABookGoesFromOneHomeToAnother) {
+  for (const QString file : {"PerAdd.apx", "ComAdd.acx"}) {
+    PutBook(Sample(file), file);
+    file == "PerAdd.apx" ? OpenAddressBookCommand() : SwitchToCompanyBookCommand();
+    ExportContactsCommand(Path("all.vcf"));
+    PutBook("", file);
+    desk.answers.append({Answer::Yes, Answer::Yes});
+    ImportContactsCommand(Path("all.vcf"));
+    SaveAllRemainingCommand([](int, int) { return true; });
+    EXPECT_EQ(GetBook(file), Sample(file));
+  }
+  Put("none.vcf", "no card");
+  After([this] { ImportContactsCommand(Path("none.vcf")); }, " new", "none.vcf has no contacts");
 }
 
 }  // namespace
