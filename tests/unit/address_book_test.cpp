@@ -177,6 +177,8 @@ TEST_F(AddressBookTest, FindGoesThroughEveryFieldOfEveryRecord) {
   ChooseNameCommand(0);
   After(DeleteRecordCommand, "Bello|x Bell #2 row 0", "Delete this record?");
   After(FindAgainCommand, "Bello|x Bell #2 row 0");  // from the first record on
+  SwitchToCompanyBookCommand();
+  EXPECT_TRUE(addressBook.SearchRecord == 0 && addressBook.SearchText == "L ");
 }
 
 TEST_F(AddressBookTest, ADoubleClickFormatsAndSelects) {
@@ -209,10 +211,10 @@ TEST_F(AddressBookTest, TheBusinesssDetailsGoToTheirLinesOfThePreferences) {
   EXPECT_EQ(addressBook.lblInfo[field::Email] + addressBook.lblInfo[field::Notes], "Page 1 Title");
   EXPECT_EQ(FieldBelow(6) * 100 + FieldBelow(9) * 10 + FieldAbove(8), 896);
   SetField(field::Email, "Proposal");
-  Put("UserPreferences.txt", lines.replace("Font Name:27", "Font Name:x"));  // by another program
   SetFaultHook([](const char*, const QString&) { return EROFS; });
   After(Save, "2|3|4|5|6|7|8||9|Proposal #0", "Error Number: 70");
   SetFaultHook(nullptr);
+  Put("UserPreferences.txt", lines.replace("Font Name:27", "Font Name:x"));  // by another program
   After(Save, " #0", "Changes will be applied in the next \"New\" or \"Open\" session.");
   EXPECT_EQ(Get("UserPreferences.txt"), lines.replace("Page Title:10", "Page Title:Proposal"));
   OpenAddressBookCommand();

@@ -110,10 +110,11 @@ TEST_F(AddressImport, AllRemainingRecordsAreSavedAfterOneQuestion) {
   SetField(field::Address1, "as typed");
   After(save(2), "Cher|4 new renamed", "Save all 4 remaining records without looking at each?");
   SetFaultHook([](const char*, const QString&) { return ENOSPC; });
-  After(save(9), "Cher|4 new renamed", "Error Number: 61");
+  SetField(field::Address1, "typed");
+  After(save(9), "Cher|typed new renamed", "Error Number: 61");
   SetFaultHook(nullptr);
   After(save(9), " new", "Batch Process Finished.\n2 records saved.");
-  EXPECT_EQ(GetBook(), Record("Bob", "as typed") + Record("Cher", "4") + Record("Dan", "5"));
+  EXPECT_EQ(GetBook(), Record("Bob", "as typed") + Record("Cher", "typed") + Record("Dan", "5"));
   EXPECT_TRUE(addressBook.lstNames.ListCount() == 3 && !WalkPanelShows());
 }
 
