@@ -32,7 +32,9 @@ FieldTexts TextsAt(const List& list, int index) {
   return texts;
 }
 FieldTexts TextsAt(const ReadyRecords& records, int index) {
-  return records[static_cast<size_t>(index)];
+  FieldTexts texts = records[static_cast<size_t>(index)];
+  for (QString& text : texts) text.truncate(LongestText);
+  return texts;
 }
 
 /// What the parsers read: one byte a character, every line break as CR LF.
@@ -98,7 +100,7 @@ void ShowWalkRecord() {
 }
 
 void ForgetWalk() {
-  batch.WalkShows = false;
+  batch.WalkShows = addressBook.WalkRecordShows = false;
   batch.BatchIndex = batch.BatchLastIndex = 0;
   batch.list = DelimitedList();
 }
