@@ -24,36 +24,9 @@
 
 namespace quillane {
 
+using namespace entries;
+
 namespace {
-
-using Run = void (*)();
-
-/// A menu of the menu bar, or one inside another.
-constexpr Command Menu(const char* parent, const char* name, const char* caption) {
-  return {name, caption, "", parent, true, true, false, false, true, nullptr};
-}
-/// An entry; one without a procedure waits for its command and is disabled.
-constexpr Command Entry(const char* parent, const char* name, const char* caption, const char* key, Run run) {
-  return {name, caption, key, parent, true, run != nullptr, false, false, false, run};
-}
-constexpr Command Off(Command command) {
-  command.enabled = false;
-  return command;
-}
-constexpr Command Hidden(Command command) {
-  command.visible = false;
-  return command;
-}
-enum class Check { Off, On };
-constexpr Command Checkable(Command command, Check check) {
-  command.checkable = true;
-  command.checked = check == Check::On;
-  return command;
-}
-/// A rule between groups of entries.
-constexpr Command Rule(const char* parent) {
-  return {"", "-", "", parent, true, false, false, false, false, nullptr};
-}
 
 template <int Window>
 void PrintPage() {

@@ -3,20 +3,11 @@
 #include <QString>
 #include <vector>
 
+#include "app/command.h"
+
 namespace quillane {
 
-/// One entry of the menu bar.  An entry without a `run` opens a sub-menu, or its command is not part of the
-/// program yet and the entry stays disabled.
-struct Command {
-  const char* name;     ///< "mnuFileSaveEvent"
-  const char* caption;  ///< with '&' before the access key
-  const char* key;      ///< "Ctrl+S", or empty
-  const char* parent;   ///< the sub-menu that holds it; empty for the menu bar
-  bool visible, enabled;
-  bool checkable, checked;
-  bool isMenu;  ///< opens a sub-menu
-  void (*run)();
-};
+/// The menu bar of frmMain.
 const std::vector<Command>& Commands();
 /// Puts every entry into the frame with its caption and start state.
 void BuildMenus();

@@ -76,7 +76,7 @@ FrameWindow::FrameWindow() {
   rows->addWidget(MakeSheetRow(), 1);
   rows->addWidget(MakeStatusBar());
   setCentralWidget(centre);
-  menus_ = std::make_unique<Menus>(*menuBar());
+  MakeMenus();
   AddPageKeys();
   ConnectModel();
   qApp->installEventFilter(this);
@@ -87,6 +87,18 @@ FrameWindow::~FrameWindow() {
   frame().form.observer = nullptr;
   frame().sheetMoved = nullptr;
   frame().pageBroughtToFront = nullptr;
+}
+
+void FrameWindow::MakeMenus() {
+  const auto stateOf = [](const Command& command) {
+    const Control& entry = frame()[QString::fromLatin1(command.name)];
+    return EntryState{entry.Caption(), entry.Visible(), entry.Enabled(), entry.Checked()};
+  };
+  const auto run = [](const Command& command) { RunCommand(QString::fromLatin1(command.name)); };
+  menus_ = std::make_unique<Menus>(*menuBar(), Commands(), Menus::Owner{stateOf, run});
+  // What the text menu offers depends on the area and on what is selected in it at this moment.
+  QMenu* text = menus_->Menu(QStringLiteral("mnuEditTextBox"));
+  connect(text, &QMenu::aboutToShow, text, [] { SetEditMenuState(); });
 }
 
 /// What the page buttons are to the pointer: Ctrl with Page Up and Page Down turns to the page beside.
@@ -132,7 +144,7 @@ void FrameWindow::ShowAsBefore() {
 }
 
 void FrameWindow::AfterChange(Control& control, Aspect) {
-  if (control.GetKind() == Kind::Menu) return menus_->Follow(control);
+  if (control.GetKind() == Kind::Menu) return menus_->Follow(control.Array());
   if (QWidget* widget = widgets_.value(&control)) Follow(control, *widget);
   if (control.Array() == QLatin1String("cmdPreview"))
     sheet_->SetDrawMode(InPreview() ? DrawMode::Printing : DrawMode::Editing);

@@ -50,6 +50,7 @@ class FrameWindow : public QMainWindow, private FormObserver {
   void AddButton(QHBoxLayout& row, const QString& name);
   QWidget* AddLabel(const QString& name, Qt::TextElideMode elide, Qt::Alignment alignment);
   void Keep(const QString& name, QWidget* widget);
+  void MakeMenus();
   void AddPageKeys();
   void ConnectModel();
 

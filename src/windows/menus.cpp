@@ -1,9 +1,5 @@
 #include "windows/menus.h"
 
-#include "app/commands.h"
-#include "editing/areas.h"
-#include "model/frame.h"
-
 namespace quillane {
 
 namespace {
@@ -19,8 +15,8 @@ QString WithOneAccessKey(QString caption) {
 
 }  // namespace
 
-Menus::Menus(QMenuBar& bar) {
-  for (const Command& command : Commands()) {
+Menus::Menus(QMenuBar& bar, const std::vector<Command>& table, Owner owner) : owner_(std::move(owner)) {
+  for (const Command& command : table) {
     if (command.isMenu)
       AddMenu(bar, command);
     else if (!*command.name)
@@ -28,9 +24,6 @@ Menus::Menus(QMenuBar& bar) {
     else
       AddEntry(command);
   }
-  // What the text menu offers depends on the area and on what is selected in it at this moment.
-  if (QMenu* text = Menu(QStringLiteral("mnuEditTextBox")))
-    QObject::connect(text, &QMenu::aboutToShow, text, [] { SetEditMenuState(); });
 }
 
 void Menus::AddMenu(QMenuBar& bar, const Command& command) {
@@ -40,7 +33,7 @@ void Menus::AddMenu(QMenuBar& bar, const Command& command) {
   menu->setObjectName(name);
   menu->menuAction()->setObjectName(name);
   menus_.insert(name, menu);
-  actions_.insert(name, menu->menuAction());
+  entries_.insert(name, {&command, menu->menuAction()});
 }
 
 void Menus::AddEntry(const Command& command) {
@@ -57,22 +50,30 @@ void Menus::AddEntry(const Command& command) {
     action->setAutoRepeat(false);
     keys_.insert(key, action);
   }
-  QObject::connect(action, &QAction::triggered, action, [action, name] {
+  const Entry entry{&command, action};
+  QObject::connect(action, &QAction::triggered, action, [this, entry] {
     // The check mark is the rule's to set, not the click's.
-    if (action->isCheckable()) action->setChecked(frame()[name].Checked());
-    RunCommand(name);
+    Show(entry);
+    owner_.run(*entry.command);
   });
-  actions_.insert(name, action);
-  Follow(frame()[name]);
+  entries_.insert(name, entry);
+  Show(entry);
 }
 
-void Menus::Follow(const Control& entry) {
-  QAction* action = actions_.value(entry.Array());
-  if (!action) return;
-  action->setText(WithOneAccessKey(entry.Caption()));
-  action->setVisible(entry.Visible());
-  action->setEnabled(entry.Enabled() && (action->menu() || CommandExists(entry.Array())));
-  if (action->isCheckable()) action->setChecked(entry.Checked());
+void Menus::Show(const Entry& entry) const {
+  const EntryState state = owner_.stateOf(*entry.command);
+  entry.action->setText(WithOneAccessKey(state.caption));
+  entry.action->setVisible(state.visible);
+  entry.action->setEnabled(state.enabled && (entry.action->menu() || entry.command->run));
+  if (entry.action->isCheckable()) entry.action->setChecked(state.checked);
+}
+
+void Menus::Follow(const QString& name) {
+  if (const Entry entry = entries_.value(name); entry.action) Show(entry);
+}
+
+void Menus::FollowAll() {
+  for (const Entry& entry : entries_) Show(entry);
 }
 
 bool Menus::Owns(const QKeySequence& key) const {
