@@ -4,8 +4,10 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=${QUILLANE_BUILD:-$root/build}
 
 # All that building, running and testing needs on Debian 12; the one list of them.  fonts-liberation has the
-# metrics of Arial and Times New Roman, in which every page is measured; xvfb stands in for a display.
-packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev fonts-liberation libgtest-dev poppler-utils xvfb xauth)
+# metrics of Arial and Times New Roman, in which every page is measured; xvfb stands in for a display; the
+# tests read PDF files and documents with poppler-utils and unzip, and print to a cupsd of their own.
+packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev fonts-liberation libgtest-dev poppler-utils unzip cups-daemon
+  cups-client xvfb xauth)
 check_packages=(clang-format clang-tidy)
 
 say() { printf '%s\n' "$*" >&2; }
