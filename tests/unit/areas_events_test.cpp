@@ -91,59 +91,49 @@ TEST_F(Areas, WarnsOnceOfADateThatCannotBeRead) {
   EXPECT_EQ(typist.desk.said.size(), 1);
 }
 
-struct Row {
-  const char* area;
-  bool toggles;
-};
-
 TEST_F(Areas, ColumnsComeAndGoOnItemRowsOnly) {
-  for (const Row& c : {Row{"frmP1.txt(19)", false}, Row{"frmP1.txt(20)", true}, Row{"frmP1.txt(27)", true},
-                       Row{"frmP1.txt(28)", false}, Row{"frmP5.txt(0)", true}, Row{"frmP5.txt(34)", true},
-                       Row{"frmP5.txt(35)", false}, Row{"frmP6.txt(0)", false}}) {
-    Control& area = At(c.area);
+  for (const auto& [name, toggles] : Cases<const char*, bool>{{"frmP1.txt(19)", false},
+                                                              {"frmP1.txt(20)", true},
+                                                              {"frmP1.txt(27)", true},
+                                                              {"frmP1.txt(28)", false},
+                                                              {"frmP5.txt(0)", true},
+                                                              {"frmP5.txt(34)", true},
+                                                              {"frmP5.txt(35)", false},
+                                                              {"frmP6.txt(0)", false}}) {
+    Control& area = At(name);
     const float plain = area.Width();
     SetFocus(area);
     typist.Key(keys::F8);
-    EXPECT_EQ(area.Width() != plain, c.toggles) << c.area;
+    EXPECT_EQ(area.Width() != plain, toggles) << name;
     DoubleClick(area);
-    EXPECT_EQ(area.Width(), plain) << c.area;
+    EXPECT_EQ(area.Width(), plain) << name;
     EXPECT_EQ(FocusName(), area.FullName());
   }
 }
 
-struct Drop {
-  const char* area;
-  const char* before;
-  const char* term;
-  bool taken;
-  const char* after;
-  const char* priced;  ///< the area that holds the price afterwards
-  const char* price;
-  const char* focus;
-};
-
 TEST_F(Areas, ADroppedTermBringsItsPrice) {
   ShowRowColumns(page(1), 2, true);
-  for (const Drop& c :
-       {Drop{"frmP2.txt(0)", "", "Centerpieces[35.00]", true, "Centerpieces", "frmP2.txt(35)", "35.00",
-             "frmP2.txt(35)"},
-        Drop{"frmP2.txt(1)", "Tall", "Vases", true, "Tall Vases", "frmP2.txt(36)", "", "frmP3.txt(0)"},
-        Drop{"frmP2.txt(2)", "", "Tent[500]", true, "Tent", "frmP2.txtAmt(2)", "500", "frmP2.txt(37)"},
-        Drop{"frmP2.txt(3)", "", "Tent[abc]", true, "Tent", "frmP2.txt(38)", "", "frmP3.txt(0)"},
-        Drop{"frmP2.txt(4)", "", "Tent[500", true, "Tent[500", "frmP2.txt(39)", "", "frmP3.txt(0)"},
-        Drop{"frmP1.txt(20)", "", "Tent[500]", true, "Tent", "frmP1.txt(28)", "500", "frmP1.txt(28)"},
-        Drop{"frmP1.txt(3)", "", "Tent[500]", true, "Tent", "frmP1.txt(11)", "", "frmP3.txt(0)"},
-        Drop{"frmP2.txt(40)", "", "Tent", false, "", "frmP2.txt(40)", "", "frmP3.txt(0)"},
-        Drop{"frmP2.txtQty(2)", "Qty.", "Tent", false, "Qty.", "frmP2.txt(41)", "", "frmP3.txt(0)"},
-        Drop{"frmP6.txt(4)", "", "Tent", false, "", "frmP2.txt(42)", "", "frmP3.txt(0)"}}) {
-    At("frmP2.txtQty(2)").SetText(QStringLiteral("Qty."));
-    At(c.area).SetText(QString::fromLatin1(c.before));
-    SetFocus(At("frmP3.txt(0)"));
-    EXPECT_EQ(DropTerm(At(c.area), QString::fromLatin1(c.term)), c.taken) << c.area;
-    EXPECT_EQ(At(c.area).Text(), QString::fromLatin1(c.after)) << c.area;
-    EXPECT_EQ(At(c.priced).Text(), QString::fromLatin1(c.price)) << c.area;
-    EXPECT_EQ(FocusName(), QString::fromLatin1(c.focus)) << c.area;
+  const char *refused = "Tall", *stays = "frmP3.txt(0)", *none = "frmP2.txt(69)";
+  for (const auto& [area, term, words, priced, focus] :
+       Cases<const char*, QString, QString, const char*, QString>{
+           {"frmP2.txt(0)", "Roses[35.00]", "Tall Roses", "frmP2.txt(35)", "frmP2.txt(35)"},
+           {"frmP2.txt(1)", "Vases", "Tall Vases", none, stays},
+           {"frmP2.txt(2)", "Tent[35.00]", "Tall Tent", "frmP2.txtAmt(2)", "frmP2.txt(37)"},
+           {"frmP2.txt(3)", "Tent[abc]", "Tall Tent", none, stays},
+           {"frmP2.txt(4)", "Tent[500", "Tall Tent[500", none, stays},
+           {"frmP1.txt(20)", "Tent[35.00]", "Tall Tent", "frmP1.txt(28)", "frmP1.txt(28)"},
+           {"frmP1.txt(3)", "Tent[35.00]", "Tall Tent", none, stays},
+           {"frmP2.txt(40)", "Tent", refused, none, stays},
+           {"frmP2.txtQty(2)", "Tent", refused, none, stays},
+           {"frmP6.txt(4)", "Tent", refused, none, stays}}) {
+    At(area).SetText("Tall");
+    SetFocus(At(stays));
+    EXPECT_EQ(DropTerm(At(area), term), words != refused) << area;
+    EXPECT_EQ(At(area).Text(), words) << area;
+    EXPECT_EQ(At(priced).Text(), priced == none ? "" : "35.00") << area;
+    EXPECT_EQ(FocusName(), focus) << area;
   }
+  EXPECT_EQ(At("frmP2.txt(38)").Text() + At("frmP2.txt(39)").Text() + At("frmP1.txt(11)").Text(), "");
 }
 
 TEST_F(Areas, TheRightButtonRefreshesWarningsAndOpensTheMenuOfItsArea) {
@@ -180,29 +170,6 @@ TEST_F(Areas, TheStatusFollowsTheCaret) {
   EXPECT_EQ(frame()["lblTextPos"].Caption(), "Printer Text Position = .21");
   MouseUp(At("frmP2.txt(0)"));
   EXPECT_EQ(editing.CursorLocation, 3);
-}
-
-TEST_F(Areas, ShiftAndAnArrowOverASelectionIsTheMoveAndNothingElse) {
-  SetFocus(At("frmP2.txt(5)"));
-  typist.Key(keys::Down, true);
-  EXPECT_EQ(FocusName(), "frmP2.txt(6)") << "nothing is selected";
-  At("frmP2.txt(9)").SetText(QStringLiteral("Tent"));
-  At("frmP2.txt(9)").SetBackColor(colors::Blue);
-  editing.AreasSelected = true;
-  typist.Key(keys::Down, true);
-  EXPECT_EQ(At("frmP2.txt(10)").Text(), "Tent");
-  EXPECT_EQ(At("frmP2.txt(9)").Text(), "");
-}
-
-TEST_F(Areas, ReleasingShiftEndsARunOfMoves) {
-  editing.MovingContents = true;
-  At("frmP2.txt(40)").SetText(QStringLiteral("12.00"));
-  FormKeyUp(page(1), {keys::Down, true, false, false, QString()});
-  EXPECT_TRUE(editing.MovingContents);
-  EXPECT_EQ(proposal.AreaAmount[1][40], 0.0F);
-  FormKeyUp(page(1), {keys::Down, false, false, false, QString()});
-  EXPECT_FALSE(editing.MovingContents);
-  EXPECT_EQ(proposal.AreaAmount[1][40], 12.0F);
 }
 
 struct MenuCase {
@@ -249,17 +216,6 @@ TEST_F(Areas, TheTextMenuKnowsWhatCanBeDone) {
   SetEditMenuState();
   EXPECT_EQ(frame()["mnuEditTextColumns"].Caption(), "Remove Columns");
   EXPECT_TRUE(frame()["mnuEditTextUndo"].Enabled());
-}
-
-TEST_F(Areas, ADoubleClickWritesTheDateInFull) {
-  for (const auto& [typed, shown] : {std::pair{"1/23/08", "January 23, 2008"}, std::pair{"soon", "soon"}}) {
-    At("frmP1.txt(0)").SetText(QString::fromLatin1(typed));
-    DoubleClick(At("frmP1.txt(0)"));
-    EXPECT_EQ(At("frmP1.txt(0)").Text(), QString::fromLatin1(shown));
-  }
-  At("frmP1.txt(1)").SetText(QStringLiteral("1/23/08"));
-  DoubleClick(At("frmP1.txt(1)"));
-  EXPECT_EQ(At("frmP1.txt(1)").Text(), "1/23/08");
 }
 
 }  // namespace

@@ -29,29 +29,21 @@ class Typing : public testing::Test {
   }
 };
 
-struct Warning {
-  const char* area;
-  int length;
-  Color colour;
-};
-
 TEST_F(Typing, WarnsAtTheWidthAndPastTheLimit) {
   // Dates hold 25 characters in 2520 twips, names 36 in 3600, amounts 12 in 1260.
-  for (const Warning& c :
-       {Warning{"frmP2.txt(0)", 89, colors::Cyan}, Warning{"frmP2.txt(0)", 90, colors::Red},
-        Warning{"frmP1.txt(0)", 25, colors::Cyan}, Warning{"frmP1.txt(0)", 26, colors::Red},
-        Warning{"frmP1.txt(2)", 35, colors::Cyan}, Warning{"frmP1.txt(2)", 36, colors::Red},
-        Warning{"frmP2.txt(35)", 12, colors::Cyan}, Warning{"frmP2.txt(35)", 13, colors::Red}}) {
-    Start(c.area, QString());
-    typist.Type(QString(c.length, QLatin1Char('7')));
-    EXPECT_EQ(At(c.area).BackColor(), c.colour) << c.area << " with " << c.length;
-    if (IsNumericArea(At(c.area))) continue;  // leaving an amount writes it out, which makes it longer
-    SetFocus(At("frmP2.txt(9)"));
-    SetFocus(At(c.area));
-    EXPECT_EQ(At(c.area).BackColor(), c.colour) << c.area << " entered again";
-    At(c.area).SetText(QString());
-    editing.DateWarningGiven = true;
-  }
+  for (const auto& [area, most] : Cases<const char*, int>{
+           {"frmP2.txt(0)", 89}, {"frmP1.txt(0)", 25}, {"frmP1.txt(2)", 35}, {"frmP2.txt(35)", 12}})
+    for (const int length : {most, most + 1}) {
+      const Color colour = length == most ? colors::Cyan : colors::Red;
+      Start(area, QString());
+      typist.Type(QString(length, QLatin1Char('7')));
+      EXPECT_EQ(At(area).BackColor(), colour) << area << " with " << length;
+      if (IsNumericArea(At(area))) continue;  // leaving an amount writes it out, which makes it longer
+      SetFocus(At("frmP2.txt(9)"));
+      SetFocus(At(area));
+      EXPECT_EQ(At(area).BackColor(), colour) << area << " entered again";
+      editing.DateWarningGiven = true;
+    }
 }
 
 TEST_F(Typing, WarnsOfTheLimitWhereTheTextIsNarrow) {
@@ -121,21 +113,6 @@ TEST_F(Typing, ACharacterCommittedWithoutAKeyPushesAsTypingDoes) {
   EXPECT_EQ(FocusName(), "frmP2.txt(1)");
 }
 
-TEST_F(Typing, KeepsTheTextsInBothLayersAndTheMirror) {
-  Start("frmP2.txt(3)", QStringLiteral("  "));
-  typist.Type(QStringLiteral("Lilies"));
-  EXPECT_EQ(proposal.PageText[1][3], "Lilies");
-  EXPECT_EQ(proposal.TextRec[1][3].Text, "  Lilies");
-  EXPECT_EQ(format.FormatTextRec[1][3].Text, "  Lilies");
-  EXPECT_EQ(editing.CurrentAreaType, "Push");
-  EXPECT_EQ(editing.CurrentAreaLimit, "120");
-  typist.Key(keys::F8);
-  typist.Type(QStringLiteral("3"));
-  EXPECT_TRUE(proposal.TextRec[1][3].QtyBox);
-  EXPECT_EQ(format.FormatTextRec[1][3].QtyValue, "3");
-  EXPECT_EQ(proposal.PageText[1][3], StoredForm(page(1), 3));
-}
-
 TEST_F(Typing, GuardsAndSelectionsKeepTheHandlersAway) {
   for (bool* guard : {&editing.RebuildingPages, &editing.OpeningFile, &editing.MovingContents,
                       &editing.ApplyingFonts, &editing.AreasSelected}) {
@@ -150,37 +127,20 @@ TEST_F(Typing, GuardsAndSelectionsKeepTheHandlersAway) {
   EXPECT_EQ(proposal.PageText[1][5], "refired");
 }
 
-struct Filter {
-  const char* area;
-  const char* typed;
-  const char* passes;
-};
-
 TEST_F(Typing, LetsOnlyFiguresIntoFigures) {
   ShowRowColumns(page(1), 0, true);
   At("frmP2.txtQty(0)").SetText(QStringLiteral("Qty."));
   At("frmP2.txtAmt(0)").SetText(QStringLiteral("Amt."));
-  for (const Filter& c :
-       {Filter{"frmP2.txt(36)", "-1a,2x.5$", "-1,2.5"}, Filter{"frmP1.txt(28)", "1 2", "12"},
-        Filter{"frmP2.txtQty(0)", "x-3,", "3"}, Filter{"frmP2.txtAmt(0)", "$1.50", "1.50"},
-        Filter{"frmP6.txt(4)", "-1,0.5b", "1,0.5"}}) {
-    Start(c.area, At(c.area).Text());
-    typist.Type(QString::fromLatin1(c.typed));
-    EXPECT_EQ(At(c.area).Text(), QString::fromLatin1(c.passes)) << c.area;
+  for (const auto& [area, typed, passes] :
+       Cases<const char*, QString, QString>{{"frmP2.txt(36)", "-1a,2x.5$", "-1,2.5"},
+                                            {"frmP1.txt(28)", "1 2", "12"},
+                                            {"frmP2.txtQty(0)", "x-3,", "3"},
+                                            {"frmP2.txtAmt(0)", "$1.50", "1.50"},
+                                            {"frmP6.txt(4)", "-1,0.5b", "1,0.5"}}) {
+    Start(area, At(area).Text());
+    typist.Type(typed);
+    EXPECT_EQ(At(area).Text(), passes) << area;
   }
-}
-
-TEST_F(Typing, WhileAreasAreSelectedNoHandWrites) {
-  Start("frmP2.txt(0)", QStringLiteral("Roses"));
-  editing.AreasSelected = true;
-  typist.Type(QStringLiteral("x"));
-  typist.Key(keys::Backspace);
-  typist.Key(keys::F8);
-  DoubleClick(At("frmP2.txt(0)"));
-  EXPECT_FALSE(DropTerm(At("frmP2.txt(0)"), QStringLiteral("Tulips")));
-  EXPECT_EQ(PasteInto(At("frmP2.txt(0)"), QStringLiteral("x")), QString());
-  EXPECT_EQ(At("frmP2.txt(0)").Text(), "Roses");
-  EXPECT_FALSE(page(1).HasColumns(0));
 }
 
 TEST_F(Typing, AnAreaFixedByTheFormatTakesTheFocusAndNothingElse) {
@@ -202,21 +162,6 @@ TEST_F(Typing, AnAreaFixedByTheFormatTakesTheFocusAndNothingElse) {
   EXPECT_TRUE(AcceptsTyping(At("frmP2.txt(1)")));
 }
 
-TEST_F(Typing, AmountsTakeAPasteOnlyWhenItIsANumber) {
-  Start("frmP2.txt(35)", QStringLiteral("99.00"));
-  At("frmP2.txt(35)").SetSelection(0, 5);
-  typist.desk.clipboard = QStringLiteral("twelve");
-  typist.CtrlV();
-  EXPECT_EQ(At("frmP2.txt(35)").Text(), "99.00");
-  typist.desk.clipboard = QStringLiteral("1,250.50\r\n");
-  At("frmP2.txt(35)").SetSelection(0, 5);
-  typist.CtrlV();
-  EXPECT_EQ(At("frmP2.txt(35)").Text(), "1,250.50");
-  Start("frmP6.txt(4)", QString());
-  typist.CtrlV();
-  EXPECT_EQ(At("frmP6.txt(4)").Text(), "1,250.50");
-}
-
 TEST_F(Typing, AHugeClipboardIsRefusedWithAWord) {
   Start("frmP2.txt(0)", QStringLiteral("Roses"));
   EXPECT_EQ(PasteInto(At("frmP2.txt(0)"), QString(10'000'000, QLatin1Char('x'))), QString());
@@ -228,11 +173,9 @@ TEST_F(Typing, AHugeClipboardIsRefusedWithAWord) {
 TEST_F(Typing, TheClientsNameNamesAnUnnamedProposal) {
   Start("frmP1.txt(2)", QString());
   typist.Type(QStringLiteral("Emily Carter "));
-  EXPECT_EQ(proposal.BaseName, "Emily Carter");
-  EXPECT_EQ(proposal.EventFileName, "Emily Carter.wwf");
-  EXPECT_EQ(proposal.TextFileName, "Emily Carter.txt");
-  EXPECT_EQ(proposal.Title, "Proposal for Emily Carter");
-  EXPECT_EQ(At("frmP2.lbl(38)").Caption(), "Proposal for Emily Carter");
+  EXPECT_EQ(proposal.BaseName + u'|' + proposal.EventFileName + u'|' + proposal.TextFileName + u'|' +
+                At("frmP2.lbl(38)").Caption(),
+            "Emily Carter|Emily Carter.wwf|Emily Carter.txt|Proposal for Emily Carter");
   At("frmP1.txt(2)").SetText(QString());
   EXPECT_EQ(proposal.EventFileName, QString());
   EXPECT_EQ(At("frmP2.lbl(38)").Caption(), "Proposal for (Client's Name)");
@@ -265,6 +208,30 @@ TEST_F(Typing, EveryTwentiethKeyTakesABackup) {
   proposal.OpenedFromBackup = true;
   typist.Type(Words(20));
   EXPECT_EQ(copies, 2) << "never over the copy that is open";
+}
+
+TEST_F(Typing, SettlingTakesTheAmountAndLeavesColourAndFocus) {
+  SetFocus(At("frmP1.txt(28)"));
+  typist.Type(QStringLiteral("80"));
+  SettleFocus();
+  EXPECT_EQ(proposal.SubTotal, 80);
+  EXPECT_EQ(FocusName(), "frmP1.txt(28)");
+  EXPECT_EQ(At("frmP1.txt(28)").BackColor(), colors::Cyan);
+}
+
+TEST_F(Typing, ARowWhoseStoredFormOutgrowsItsFieldTurnsRed) {
+  SetFocus(At("frmP2.txt(0)"));
+  typist.Key(keys::F8);
+  Control& row = At("frmP2.txt(0)");
+  row.SetFontSize(5);  // fifty twips a character: the words alone fit
+  row.SetText(
+      QString(109, QLatin1Char('x')));  // with two prompts and three separators just what a file holds
+  SetFocus(At("frmP2.txtQty(0)"));
+  EXPECT_EQ(row.BackColor(), colors::Grey);
+  typist.Type(QStringLiteral("12345"));
+  EXPECT_EQ(row.BackColor(), colors::Red);
+  typist.Key(keys::Backspace);
+  EXPECT_EQ(row.BackColor(), colors::Grey);
 }
 
 }  // namespace

@@ -91,15 +91,6 @@ TEST(WalkLimits, ColumnBoxesEndAtTheFirstAndLastRow) {
   EXPECT_EQ(FocusName(), "frmP2.txtAmt(34)");
 }
 
-TEST(WalkLimits, AnotherPageComesToTheFrontOnTheWay) {
-  Typist typist;
-  SetFocus(At("frmP4.txt(69)"));
-  typist.Key(keys::Tab);
-  EXPECT_EQ(editing.FrontWindow, 4);
-  typist.Key(keys::Tab, true);
-  EXPECT_EQ(editing.FrontWindow, 3);
-}
-
 TEST(Columns, QuantityLeadsToTheStartOfTheWords) {
   Typist typist;
   ShowRowColumns(page(1), 0, true);

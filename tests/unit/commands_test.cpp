@@ -45,16 +45,6 @@ TEST_F(CommandTable, ToolBarButtonsOfAbsentCommandsAreDisabled) {
   EXPECT_FALSE(frame()["mnuEditFind"].Enabled());
 }
 
-TEST_F(CommandTable, SwitchesKeepCheckAndFlagTogether) {
-  RunCommand("mnuOptUnderline");
-  EXPECT_TRUE(editing.UnderlineMainCategories && frame()["mnuOptUnderline"].Checked());
-  RunCommand("mnuOptDoNotLockFmtTextBoxes");
-  EXPECT_FALSE(editing.DoNotLockFormat || frame()["mnuOptDoNotLockFmtTextBoxes"].Checked());
-  frame()["mnuOptUnderline"].SetEnabled(false);
-  RunCommand("mnuOptUnderline");
-  EXPECT_TRUE(editing.UnderlineMainCategories) << "a disabled entry must not run";
-}
-
 TEST_F(CommandTable, LogonEnablesThreeHiddenEntriesForTheRightWordOnly) {
   frame()["mnuAdminRecalc"].SetEnabled(false);
   desk.inputs.enqueue("Kolbera");

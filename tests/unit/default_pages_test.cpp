@@ -136,15 +136,6 @@ TEST_F(DefaultPages, ChangeToTheAlternativeLayout) {
   EXPECT_EQ(DefaultContractLines().size(), 35);
 }
 
-TEST_F(DefaultPages, StoreWhatTheyPut) {
-  ASSERT_EQ(proposal.DefaultLabels[0].size(), 46U);
-  ASSERT_EQ(proposal.DefaultLabels[4].size(), 39U);
-  ASSERT_EQ(proposal.DefaultLabels[5].size(), 65U);
-  const LabelDefault expected{7560, 2160, "Balance Due", "Times New Roman", 9.75F, true, 0, true, false};
-  EXPECT_EQ(proposal.DefaultLabels[5][9], expected);
-  EXPECT_EQ(proposal.DefaultLabels[5][64].Caption, "Proposal for (Client's Name) - Our Copy");
-}
-
 TEST_F(DefaultPages, ShowOnlyWhatIsNotHidden) {
   Page& first = page(0);
   first.lbl[40].SetShown(false);
@@ -218,16 +209,6 @@ TEST_F(DefaultPages, ReportColumnsThatFail) {
   EXPECT_EQ(desk_.LastSaid(), "Error in loading columns on Page 4.");
   EXPECT_FALSE(page(3).columnsLoaded);
   EXPECT_FALSE(editing.RebuildingPages);
-}
-
-TEST_F(DefaultPages, TakeTheUsersFontAndKeepBold) {
-  proposal.UDP = {"Georgia", 9, 0x336699, true};
-  page(1).txt[4].SetFontBold(true);
-  SetMyFonts(page(1));
-  EXPECT_EQ(page(1).txt[4].GetFont(), (Font{"Georgia", 9, true, true, false}));
-  EXPECT_EQ(page(1).txtAmt[4].GetFont(), (Font{"Georgia", 9, false, true, false}));
-  EXPECT_EQ(page(1).txt[4].ForeColor(), 0x336699);
-  EXPECT_EQ(page(1).lblAt[4].GetFont().name, "Arial");
 }
 
 }  // namespace

@@ -160,19 +160,6 @@ TEST_F(ExportTest, SaysWhereTheDocumentLiesWhenNothingOpensIt) {
   QDir(QFileInfo(desk_.opened[0]).path()).removeRecursively();
 }
 
-TEST_F(ExportTest, ReportsADiskThatIsFullAndKeepsWhatWasThere) {
-  Put("Emily Carter.txt", "old");
-  desk_.clipboard = "before";
-  SetFaultHook([](const char* step, const QString&) { return qstrcmp(step, "write") == 0 ? ENOSPC : 0; });
-  Reply({Answer::Yes});
-  SaveAsTextCommand();
-  EXPECT_TRUE(desk_.LastSaid().contains("SaveFileAsText")) << desk_.LastSaid().toStdString();
-  EXPECT_EQ(Get("Emily Carter.txt"), "old");
-  CopyProposalCommand();
-  EXPECT_EQ(desk_.clipboard, "before");
-  EXPECT_TRUE(desk_.opened.isEmpty());
-}
-
 TEST_F(ExportTest, CopiesTheReportThroughItsScratchFile) {
   Put("TempClipboardInfo.txt", QByteArray(100000, 'x'));
   CopyProposalCommand();

@@ -80,16 +80,6 @@ TEST_F(FileDialogRules, KindsThatAreNotReadYetAreToldAndChangeNothing) {
   EXPECT_EQ(TextOf("frmP2.txt(0)"), "Flowers");
 }
 
-TEST_F(FileDialogRules, TextsOpenInTheDesktopsViewer) {
-  OpenTextFileCommand();
-  FileDialog dialog = Loaded();
-  EXPECT_EQ(dialog.files, QStringList("notes.txt"));
-  dialog.ChooseFile("notes.txt");
-  dialog.Open();
-  EXPECT_EQ(desk_.opened, QStringList(prefs.ProposalFolder + "notes.txt"));
-  EXPECT_EQ(proposal.TextFileName, "");
-}
-
 TEST_F(FileDialogRules, DrivesAreLettersAndFolders) {
   ASSERT_TRUE(QDir().mkpath(prefs.ProgramFolder + "drives/f/Share"));
   const QStringList drives = Drives();

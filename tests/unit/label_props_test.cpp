@@ -102,38 +102,6 @@ TEST_F(LabelProps, StoreNothingThatWasOnlyLookedAt) {
   EXPECT_FALSE(PropertiesHaveChanged());
 }
 
-TEST_F(LabelProps, CarryPage6ToItsCopy) {
-  Begin(5, 20);
-  SetLabelCaption("Terms");
-  SetLabelColor(Red);
-  UnloadLabelProps();
-  EXPECT_EQ(At("frmP6_1.lbl(20)").Caption(), "Terms");
-  EXPECT_EQ(At("frmP6_1.lbl(20)").ForeColor(), Red);
-}
-
-TEST_F(LabelProps, TakeAMixedColour) {
-  Begin(0, 11);
-  labelEdit.LabelColorMode = true;
-  ApplyMixedColour(Blue);
-  EXPECT_EQ(At("frmP1.lbl(11)").ForeColor(), Blue);
-  EXPECT_EQ(proposal.UDP.FontColor, 0);
-  UnloadLabelProps();
-  EXPECT_EQ(Stored(0, 11).ForeColor, Blue);
-}
-
-TEST_F(LabelProps, MakeATitleOfTheTitlesCaption) {
-  Begin(0, 45);
-  SetLabelCaption("The Carter Wedding");
-  SetLabelFontSize(20);
-  UnloadLabelProps();
-  EXPECT_EQ(proposal.Title, "The Carter Wedding");
-  EXPECT_TRUE(proposal.TitleByHand);
-  EXPECT_EQ(At("frmP4.lbl(38)").Caption(), "The Carter Wedding");
-  EXPECT_EQ(Stored(0, 45).Caption, "The Carter Wedding");
-  const Control& title = At("frmP1.lbl(45)");
-  EXPECT_NEAR(title.Left() + title.Width() / 2, sheet::Centre, 1);
-}
-
 TEST_F(LabelProps, MakeATitleOfAnyPagesTitle) {
   Begin(5, 64);
   EXPECT_EQ(WordsOfCaption(), CaptionWords::Title);

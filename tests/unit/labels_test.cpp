@@ -103,17 +103,6 @@ TEST_F(Labels, TheCopyFollowsPage6WhenTheLabelIsLetGo) {
   EXPECT_EQ(Label(6, 64).Left(), Label(5, 64).Left());
 }
 
-TEST_F(Labels, TheCopyIsAView) {
-  Control& label = Label(6, 20);
-  const float left = label.Left();
-  lbl_DblClick(label);
-  Drag(label, 360, 0);
-  EXPECT_FALSE(IsMarked(label));
-  EXPECT_EQ(label.Left(), left);
-  EXPECT_EQ(PointerOver(label), MousePointer::Default);
-  EXPECT_EQ(PointerOver(Label(5, 20)), MousePointer::Moves);
-}
-
 TEST_F(Labels, ADoubleClickMarksAndUnmarks) {
   Control& label = Label(2, 0);
   label.SetForeColor(colors::Red);

@@ -31,44 +31,9 @@ class LogoTest : public test::ProposalTest {
   QStringList before_;
 };
 
-TEST_F(LogoTest, IsChosenInTheFileDialog) {
-  OpenLogoCommand();
-  EXPECT_EQ(desk_.shown, QStringList{"frmFile"});
-  Put("ours.JPG", "x");
-  Put("notes.txt", "x");
-  FileDialog dialog;
-  dialog.Load();
-  EXPECT_EQ(dialog.caption, "Opening Graphics File...");
-  EXPECT_FALSE(dialog.propertiesOffered);
-  EXPECT_EQ(dialog.files, QStringList{"ours.JPG"});
-  const QString folder = proposal.CurrentFolder;
-  dialog.ChooseFile("ours.JPG");
-  dialog.Open();
-  EXPECT_EQ(Pic().GetPicture().source, PathOf("ours.JPG"));
-  EXPECT_TRUE(Pic().Visible() && !Pic().Hidden() && Checked("mnuEditLogoVisible"));
-  EXPECT_EQ(Pic().Left(), 720);
-  EXPECT_EQ(proposal.LogoPath, PathOf("ours.JPG"));
-  EXPECT_EQ(format.LogoPath, PathOf("ours.JPG"));
-  EXPECT_TRUE(format.LogoChanged);
-  EXPECT_EQ(proposal.CurrentFolder, folder);
-  EXPECT_FALSE(fileDialog.FormatMode);
-}
-
 class BadPictureDesk : public test::FakeDesk {
   Picture LoadPicture(const QString& path) override { Raise(errors::InvalidPicture, path); }
 };
-
-TEST_F(LogoTest, StaysWhenTheNewOneCannotBeRead) {
-  ChooseLogo("good.jpg");
-  Pic().SetLeft(2880);
-  BadPictureDesk desk;
-  ChooseLogo("folder/bad.jpg");
-  EXPECT_TRUE(desk.LastSaid().startsWith("\"bad.jpg\" cannot be used as a logo."));
-  EXPECT_EQ(proposal.LogoPath, "good.jpg");
-  EXPECT_EQ(Pic().GetPicture().source, "good.jpg");
-  EXPECT_TRUE(Pic().Visible());
-  SetDesk(&desk_);
-}
 
 TEST_F(LogoTest, ShowsAsTheSettingAndTheMenuSay) {
   ToggleLogoVisible();
@@ -85,18 +50,6 @@ TEST_F(LogoTest, ShowsAsTheSettingAndTheMenuSay) {
   SetFaultHook([](const char* step, const QString&) { return qstrcmp(step, "rename") == 0 ? EACCES : 0; });
   ToggleLogoVisible();
   EXPECT_TRUE(Pic().Visible() && Checked("mnuEditLogoVisible")) << "the setting could not be stored";
-}
-
-TEST_F(LogoTest, WithABorderShowsAgain) {
-  ToggleLogoBorder();
-  EXPECT_FALSE(Checked("mnuEditLogoBorder")) << "there is none to border";
-  ChooseLogo("ours.jpg");
-  ToggleLogoVisible();
-  ToggleLogoBorder();
-  EXPECT_TRUE(Checked("mnuEditLogoBorder") && Pic().Visible());
-  ToggleLogoBorder();
-  EXPECT_FALSE(Checked("mnuEditLogoBorder"));
-  EXPECT_TRUE(Pic().Visible());
 }
 
 TEST_F(LogoTest, IsKeptAsDefaultWithItsPlace) {

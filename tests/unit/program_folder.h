@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "cases.h"
 #include "fake_desk.h"
 #include "model/proposal.h"
 #include "platform/files.h"

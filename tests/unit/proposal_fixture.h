@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "cases.h"
 #include "editing/areas.h"
 #include "fake_desk.h"
 #include "files/changes.h"

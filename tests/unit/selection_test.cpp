@@ -101,14 +101,6 @@ TEST_F(Selection, RefusesPastesThatHaveNoPlace) {
   EXPECT_EQ(TextAt(3, 33), "");
 }
 
-TEST_F(Selection, PastesNothingFromAnEmptyMemory) {
-  Fill(1, 4, "Kept", "1.00");
-  PutCaret(1, 4);
-  PasteTextContents(page(1));
-  EXPECT_EQ(desk.LastSaid(), "Nothing Selected");
-  EXPECT_EQ(TextAt(1, 4), "Kept");
-}
-
 TEST_F(Selection, AsksBeforeItOverwrites) {
   Fill(1, 0, "New", "1.00");
   Fill(2, 0, "Old", "9.00");

@@ -1,6 +1,7 @@
 // A person at the keyboard: calls the pages' handlers in the order in which a viewer does, and edits as an
 // editor would.
 #pragma once
+#include "cases.h"
 #include "editing/areas.h"
 #include "fake_desk.h"
 #include "model/focus.h"

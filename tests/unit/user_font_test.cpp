@@ -8,17 +8,6 @@ namespace {
 
 class UserFontTest : public test::ProposalTest {};
 
-TEST_F(UserFontTest, SaysWhatIsChosen) {
-  proposal.UDP = {"Courier", 8, 0x008000, true};
-  const UserFontTexts shown = ShownUserFont();
-  EXPECT_EQ(shown.name, "Current Font Name = Courier");
-  EXPECT_EQ(shown.color, "Current Font Color = Green");
-  EXPECT_EQ(shown.sample, "Sampling Text with Courier: 8");
-  EXPECT_EQ(shown.font, (Font{"Courier", 8, false, true, false}));
-  EXPECT_EQ(SizeInCaption("Font Size = 10"), 10.0F);
-  EXPECT_EQ(SizeInCaption("Font Size = 6"), 6.0F);
-}
-
 TEST_F(UserFontTest, ReachesEveryAreaAndLeavesBoldAndBlueAlone) {
   At("frmP2.txt(3)").SetFontBold(true);
   At("frmP3.txt(4)").SetBackColor(colors::Blue);
