@@ -21,15 +21,8 @@ bool Takes(Buttons buttons, Answer answer) {
 }
 
 Answer SafeAnswer(Buttons buttons) {
-  switch (buttons) {
-    case Buttons::Ok:
-      return Answer::Ok;
-    case Buttons::YesNo:
-      return Answer::No;
-    case Buttons::YesNoCancel:
-      break;
-  }
-  return Answer::Cancel;
+  if (buttons == Buttons::Ok) return Answer::Ok;
+  return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
 }
 
 }  // namespace
@@ -99,20 +92,16 @@ QString Boxes::Words(const Shown& box) {
   return InQuotes(box.text) + QStringLiteral(" title ") + InQuotes(box.title);
 }
 
-QString Boxes::Foresee(int line, const QString& text, const std::optional<QString>& title, Match match) {
-  const Foreseen expected{line, Plain(text), title, match};
+QString Boxes::Foresee(const QString& text, const std::optional<QString>& title, Match match) {
+  const Foreseen expected{line_, Plain(text), title, match};
   for (size_t at = reached_; foreseen_.empty() && at < shown_.size(); ++at) {
     Shown& box = shown_[at];
-    if (expected.Fits(box)) {
-      box.asked = true;
-      reached_ = at + 1;
-      return {};
-    }
-    if (box.Settled()) continue;
-    // The box that came instead counts as told about: it is in this line's failure.
+    const bool fits = expected.Fits(box);
+    if (!fits && box.Settled()) continue;
+    // A box that came instead counts as told about too: it is in this line's failure.
     box.asked = true;
     reached_ = at + 1;
-    return Words(box);
+    return fits ? QString() : Words(box);
   }
   foreseen_.push_back(expected);
   return {};

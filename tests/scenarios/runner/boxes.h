@@ -31,8 +31,7 @@ class Boxes {
 
   /// `message`: the next box says exactly that.  What differs, in words; empty when it fits or has still to
   /// come.
-  QString Foresee(int line, const QString& text, const std::optional<QString>& title,
-                  Match match = Match::Exact);
+  QString Foresee(const QString& text, const std::optional<QString>& title = {}, Match match = Match::Exact);
   /// `nomessage`: every box so far was foreseen or answered.  What came, in words; empty for none.
   QString Unforeseen() const;
   /// A box that may come unasked: it is kept, and a `message` line may still ask for it.

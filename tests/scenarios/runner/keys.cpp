@@ -1,127 +1,65 @@
 #include "keys.h"
 
-#include <QStringList>
+#include <QHash>
+#include <QKeySequence>
 
 namespace quillane::scenario {
 
 namespace {
 
-struct Named {
-  const char* names;  ///< with blanks between them
-  Qt::Key key;
-  const char* text = "";
-};
-
-constexpr Named NamedKeys[] = {
-    {"enter return", Qt::Key_Return, "\r"},
-    {"tab", Qt::Key_Tab, "\t"},
-    {"backtab", Qt::Key_Backtab},
-    {"escape esc", Qt::Key_Escape, "\x1b"},
-    {"backspace back", Qt::Key_Backspace, "\b"},
-    {"delete del", Qt::Key_Delete, "\x7f"},
-    {"insert ins", Qt::Key_Insert},
-    {"space", Qt::Key_Space, " "},
-    {"up", Qt::Key_Up},
-    {"down", Qt::Key_Down},
-    {"left", Qt::Key_Left},
-    {"right", Qt::Key_Right},
-    {"home", Qt::Key_Home},
-    {"end", Qt::Key_End},
-    {"pageup pgup", Qt::Key_PageUp},
-    {"pagedown pgdown pgdn", Qt::Key_PageDown},
-    {"menu", Qt::Key_Menu},
-    {"plus", Qt::Key_Plus, "+"},
-};
-
-struct Modifier {
-  const char* names;
-  Qt::Key key;
-  Qt::KeyboardModifier modifier;
-};
-
-/// In the order in which a hand holds them.
-constexpr Modifier Modifiers[] = {{"ctrl control", Qt::Key_Control, Qt::ControlModifier},
-                                  {"alt", Qt::Key_Alt, Qt::AltModifier},
-                                  {"shift", Qt::Key_Shift, Qt::ShiftModifier},
-                                  {"meta", Qt::Key_Meta, Qt::MetaModifier}};
-
-/// The row that has the name, in any case; null for none.
-template <class Row, size_t Count>
-const Row* Find(const Row (&rows)[Count], const QString& name) {
-  for (const Row& row : rows)
-    if (QString::fromLatin1(row.names).split(QLatin1Char(' ')).contains(name.toLower())) return &row;
-  return nullptr;
+/// What a key types when no other is held; what Latin-1 lacks comes from a compose key or an input method.
+QString TextOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  static const QHash<Qt::Key, char> typed{{Qt::Key_Return, '\r'},
+                                          {Qt::Key_Tab, '\t'},
+                                          {Qt::Key_Escape, '\x1b'},
+                                          {Qt::Key_Backspace, '\b'},
+                                          {Qt::Key_Delete, '\x7f'}};
+  if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) return {};
+  const bool letter = key >= Qt::Key_A && key <= Qt::Key_Z;
+  // With Ctrl a letter types its control character.
+  if (modifiers & Qt::ControlModifier) return letter ? QString(QChar(key - Qt::Key_A + 1)) : QString();
+  if (const auto special = typed.constFind(key); special != typed.cend())
+    return QString(QLatin1Char(*special));
+  if (key >= 0x100) return {};
+  return modifiers & Qt::ShiftModifier ? QString(QChar(key)) : QString(QChar(key)).toLower();
 }
 
-/// "F8" is 8; 0 for what is no function key.
-int FunctionKey(const QString& name) {
-  bool good = false;
-  const int number = name.startsWith(QLatin1Char('f')) ? name.mid(1).toInt(&good) : 0;
-  return good && number >= 1 && number <= 35 ? number : 0;
-}
-
-/// With Ctrl a letter types its control character, with Alt nothing.
-QString TypedText(const KeyPress& press) {
-  if (press.modifiers & (Qt::AltModifier | Qt::MetaModifier)) return {};
-  if (!(press.modifiers & Qt::ControlModifier)) return press.text;
-  return press.key >= Qt::Key_A && press.key <= Qt::Key_Z ? QString(QChar(press.key - Qt::Key_A + 1))
-                                                          : QString();
-}
-
-std::optional<KeyPress> ReadName(const QString& name) {
-  if (const Named* named = Find(NamedKeys, name)) return KeyPress{named->key, {}, QLatin1String(named->text)};
-  if (const Modifier* held = Find(Modifiers, name)) return KeyPress{held->key, {}, {}};
-  if (const int number = FunctionKey(name.toLower()))
-    return KeyPress{static_cast<Qt::Key>(Qt::Key_F1 + number - 1), {}, {}};
-  if (name.size() != 1) return std::nullopt;
-  return KeyOf(name[0]);
+/// The names that scripts may use and the toolkit spells another way.
+QString Spelled(const QString& name) {
+  static const QHash<QString, QString> other{
+      {"enter", "Return"},    {"escape", "Esc"},     {"delete", "Del"},
+      {"insert", "Ins"},      {"back", "Backspace"}, {"pageup", "PgUp"},
+      {"pagedown", "PgDown"}, {"pgdn", "PgDown"},    {"plus", "+"}};
+  return other.value(name.toLower(), name);
 }
 
 }  // namespace
 
 std::optional<KeyPress> ReadKey(const QString& combination) {
-  QStringList parts = combination.split(QLatin1Char('+'), Qt::SkipEmptyParts);
-  QString name = parts.isEmpty() ? combination : parts.takeLast();
-  Qt::KeyboardModifiers modifiers;
-  for (const QString& part : parts) {
-    const Modifier* held = Find(Modifiers, part);
-    if (!held) return std::nullopt;
-    modifiers |= held->modifier;
-  }
-  // "Ctrl+S" is the letter's key without Shift; "Shift+a" types its capital.
-  if (name.size() == 1)
-    name = modifiers & Qt::ShiftModifier ? name.toUpper() : modifiers ? name.toLower() : name;
-  std::optional<KeyPress> press = ReadName(name);
-  if (!press) return std::nullopt;
-  press->modifiers |= modifiers;
-  press->text = TypedText(*press);
-  if (press->key == Qt::Key_Tab && modifiers & Qt::ShiftModifier) press->key = Qt::Key_Backtab;
-  return press;
+  const QString name = combination.section(QLatin1Char('+'), -1);
+  QString before = combination.chopped(name.size()).toLower();
+  for (const Modifier& one : Modifiers)
+    if (name.compare(QLatin1String(one.name), Qt::CaseInsensitive) == 0 && before.isEmpty())
+      return KeyPress{one.key, {}, {}};
+  if (before.isEmpty() && name.size() == 1) return KeyOf(name[0]);
+  const QKeySequence sequence(before.replace(QLatin1String("control"), QLatin1String("ctrl")) + Spelled(name),
+                              QKeySequence::PortableText);
+  if (sequence.count() != 1 || sequence[0].key() == Qt::Key_unknown || sequence[0].key() == 0)
+    return std::nullopt;
+  const Qt::KeyboardModifiers modifiers = sequence[0].keyboardModifiers();
+  const Qt::Key key = sequence[0].key();
+  const bool backwards = key == Qt::Key_Tab && modifiers & Qt::ShiftModifier;
+  return KeyPress{backwards ? Qt::Key_Backtab : key, modifiers, TextOf(key, modifiers)};
 }
 
 KeyPress KeyOf(QChar letter) {
-  if (letter == QLatin1Char('\n') || letter == QLatin1Char('\r'))
-    return {Qt::Key_Return, {}, QStringLiteral("\r")};
-  if (letter == QLatin1Char('\t')) return {Qt::Key_Tab, {}, QStringLiteral("\t")};
-  // A key carries the code of its capital letter; what Latin-1 lacks comes from a compose key or an input
-  // method.
+  if (letter == QLatin1Char('\n') || letter == QLatin1Char('\r')) return *ReadKey(QStringLiteral("Return"));
+  if (letter == QLatin1Char('\t')) return *ReadKey(QStringLiteral("Tab"));
+  // A key carries the code of its capital letter.
   const QChar capital = letter.toUpper();
   const Qt::Key key = capital.unicode() < 0x100 ? static_cast<Qt::Key>(capital.unicode()) : Qt::Key_unknown;
   const bool shifted = letter.isUpper() && letter.toLower() != letter;
   return {key, shifted ? Qt::ShiftModifier : Qt::NoModifier, QString(letter)};
-}
-
-std::vector<Qt::Key> ModifierKeys(Qt::KeyboardModifiers modifiers) {
-  std::vector<Qt::Key> keys;
-  for (const Modifier& one : Modifiers)
-    if (modifiers & one.modifier) keys.push_back(one.key);
-  return keys;
-}
-
-Qt::KeyboardModifier ModifierOf(Qt::Key key) {
-  for (const Modifier& one : Modifiers)
-    if (one.key == key) return one.modifier;
-  return Qt::NoModifier;
 }
 
 }  // namespace quillane::scenario

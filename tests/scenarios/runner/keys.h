@@ -3,7 +3,6 @@
 #include <QString>
 #include <Qt>
 #include <optional>
-#include <vector>
 
 namespace quillane::scenario {
 
@@ -13,11 +12,20 @@ struct KeyPress {
   QString text;
 };
 
-/// "Shift+Down", "Ctrl+S", "F8", "Enter", "a"; nothing for a name that no key has.
+struct Modifier {
+  const char* name;
+  Qt::Key key;
+  Qt::KeyboardModifier modifier;
+};
+/// In the order in which a person holds them.
+inline constexpr Modifier Modifiers[] = {{"ctrl", Qt::Key_Control, Qt::ControlModifier},
+                                         {"alt", Qt::Key_Alt, Qt::AltModifier},
+                                         {"shift", Qt::Key_Shift, Qt::ShiftModifier},
+                                         {"meta", Qt::Key_Meta, Qt::MetaModifier}};
+
+/// "Shift+Down", "Ctrl+S", "F8", "Enter", "a", "Shift"; nothing for a name that no key has.
 std::optional<KeyPress> ReadKey(const QString& combination);
 /// The key that types a letter.
 KeyPress KeyOf(QChar letter);
-std::vector<Qt::Key> ModifierKeys(Qt::KeyboardModifiers modifiers);
-Qt::KeyboardModifier ModifierOf(Qt::Key key);
 
 }  // namespace quillane::scenario

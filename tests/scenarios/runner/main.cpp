@@ -3,15 +3,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTextStream>
 
 #include "player.h"
-#include "values.h"
+#include "statements.h"
 
 namespace quillane::scenario {
 
@@ -19,11 +16,9 @@ namespace {
 
 /// The first `screen` line, so that the screen has that size from the start.
 QSize ScreenOf(const std::vector<Statement>& statements) {
-  for (const Statement& statement : statements) {
-    const std::optional<double> width = ReadNumber(statement.At(1)), height = ReadNumber(statement.At(2));
-    if (statement.Verb() == QLatin1String("screen") && width && height)
-      return {static_cast<int>(*width), static_cast<int>(*height)};
-  }
+  for (const Statement& statement : statements)
+    if (const auto size = Fit(QStringLiteral("screen X Y"), statement.words))
+      return {size->Int(0), size->Int(1)};
   return {1280, 1024};
 }
 
@@ -31,17 +26,14 @@ QSize ScreenOf(const std::vector<Statement>& statements) {
 void ChoosePlatform(const QString& folder, QSize screen) {
   const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
   if (!platform.isEmpty() && platform != "offscreen") return;
-  const QJsonObject one{{"name", "screen"},
-                        {"x", 0},
-                        {"y", 0},
-                        {"width", screen.width()},
-                        {"height", screen.height()},
-                        {"logicalDpi", 96},
-                        {"logicalBaseDpi", 96},
-                        {"dpr", 1}};
+  const QByteArray one = QStringLiteral(R"({"screens":[{"name":"screen","x":0,"y":0,"width":%1,"height":%2,)"
+                                        R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})")
+                             .arg(screen.width())
+                             .arg(screen.height())
+                             .toUtf8();
   QFile file(QDir(folder).filePath(QStringLiteral("screen.json")));
   if (!file.open(QIODevice::WriteOnly)) return;
-  file.write(QJsonDocument(QJsonObject{{"screens", QJsonArray{one}}}).toJson());
+  file.write(one);
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file.fileName()));
 }
 
@@ -117,7 +109,7 @@ int main(int argc, char** argv) {
   QStringList arguments;
   for (int at = 1; at < argc; ++at) arguments.append(QFile::decodeName(argv[at]));
   if (arguments.isEmpty()) {
-    out << "usage: quillane-scenario FILE...\n";
+    out << "usage: quillane-scenario FILE...\nThe statements:\n" << quillane::scenario::Language();
     return 2;
   }
   if (arguments.size() == 2 && arguments.front() == QLatin1String("--one"))

@@ -1,9 +1,12 @@
 #include "paper.h"
 
 #include <QStringList>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
-#include "failure.h"
 #include "pdf_text.h"
+#include "script.h"
 #include "values.h"
 
 namespace quillane::scenario {
@@ -24,10 +27,13 @@ QString Places(const std::vector<test::PdfWord>& found) {
   return QStringLiteral("at ") + places.join(QStringLiteral(", "));
 }
 
-test::PdfPage FirstPage(const QString& file) {
+test::PdfPage SheetOf(const QString& file, const QString& sheet) {
   const std::vector<test::PdfPage> pages = test::ReadPdf(file);
-  if (pages.empty()) throw Failure(QStringLiteral("a sheet"), QStringLiteral("an empty document"));
-  return pages.front();
+  const size_t at = sheet.contains(QLatin1Char('.')) ? sheet.section(QLatin1Char('.'), 1).toULong() : 1;
+  if (at < 1 || at > pages.size())
+    throw Failure(QStringLiteral("a printed sheet ") + sheet,
+                  QStringLiteral("a document of %1 sheets").arg(pages.size()));
+  return pages[at - 1];
 }
 
 /// Texts that end at their area's right edge on paper: the time on page 1, the amounts, and all of the totals
@@ -69,36 +75,35 @@ void Paper::Look() {
   looked_ = desk_.printed.size();
 }
 
-size_t Paper::Count() {
+int Paper::Count() {
   Look();
-  const size_t count = desk_.printed.size() - counted_;
-  counted_ = desk_.printed.size();
-  return count;
+  return static_cast<int>(desk_.printed.size() - std::exchange(counted_, desk_.printed.size()));
 }
 
-QString Paper::SheetFile(int sheet) {
+QString Paper::FileOf(const QString& sheet) {
   Look();
-  const size_t sheets = desk_.printed.size() - batch_;
-  if (sheet < 1 || static_cast<size_t>(sheet) > sheets)
-    throw Failure(QStringLiteral("a printed sheet %1").arg(sheet), QStringLiteral("%1 sheets").arg(sheets));
-  return desk_.printed[batch_ + static_cast<size_t>(sheet) - 1].pdf;
+  const size_t documents = desk_.printed.size() - batch_;
+  const size_t document = sheet.section(QLatin1Char('.'), 0, 0).toULong();
+  if (document < 1 || document > documents)
+    throw Failure(QStringLiteral("a printed sheet ") + sheet, QStringLiteral("%1 documents").arg(documents));
+  return desk_.printed[batch_ + document - 1].pdf;
 }
 
-void Paper::ExpectText(int sheet, const QString& text, double left, double top) {
-  const test::PdfPage page = FirstPage(SheetFile(sheet));
-  if (!test::HasTextAt(page, text, static_cast<float>(left), static_cast<float>(top), Tolerance))
-    throw Failure(QStringLiteral("%1 at %2").arg(InQuotes(text), Place(left, top)),
-                  Places(test::FindText(page, text)));
+void Paper::ExpectText(const QString& sheet, const QString& text, std::optional<QPointF> place) {
+  const test::PdfPage there = SheetOf(FileOf(sheet), sheet);
+  const auto fits = [&](const test::PdfWord& word) {
+    return !place || (std::abs(static_cast<double>(word.left) - place->x()) <= double{Tolerance} &&
+                      std::abs(static_cast<double>(word.top) - place->y()) <= double{Tolerance});
+  };
+  const std::vector<test::PdfWord> found = test::FindText(there, text);
+  if (std::none_of(found.begin(), found.end(), fits))
+    throw Failure(InQuotes(text) + QStringLiteral(" at ") +
+                      (place ? Place(place->x(), place->y()) : QStringLiteral("any place")),
+                  Places(found));
 }
 
-void Paper::ExpectText(int sheet, const QString& text) {
-  const test::PdfPage page = FirstPage(SheetFile(sheet));
-  if (test::FindText(page, text).empty())
-    throw Failure(InQuotes(text) + QStringLiteral(" on it"), Places({}));
-}
-
-void Paper::ExpectPage(int sheet, const Page& page) {
-  const test::PdfPage there = FirstPage(SheetFile(sheet));
+void Paper::ExpectPage(const QString& sheet, const Page& page) {
+  const test::PdfPage there = SheetOf(FileOf(sheet), sheet);
   QStringList missing, found;
   for (const Control* control : page.Controls()) {
     const Print print = PrintOf(page, *control);

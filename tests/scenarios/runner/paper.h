@@ -1,6 +1,8 @@
 // The sheets that were printed, and the texts on them.
 #pragma once
+#include <QPointF>
 #include <QString>
+#include <optional>
 
 #include "model/page.h"
 #include "test_desk.h"
@@ -8,24 +10,23 @@
 namespace quillane::scenario {
 
 /// Counts documents and finds the last batch: what came since the script last looked at the sheets or counted
-/// them.
+/// them.  A sheet is "2", the first one of the second document of the batch, or "2.3", its third.
 class Paper {
  public:
   explicit Paper(const TestDesk& desk) : desk_(desk) {}
 
   /// Documents since the last call.
-  size_t Count();
-  /// Throws Failure when the text does not begin at that place of the n-th sheet of the last batch, within 2
-  /// twips.
-  void ExpectText(int sheet, const QString& text, double left, double top);
-  /// Throws Failure when the text is nowhere on the sheet.
-  void ExpectText(int sheet, const QString& text);
+  int Count();
+  /// Throws Failure when the text does not begin at that place of the sheet, in twips, within 2 twips;
+  /// without a place, when it is nowhere on the sheet.
+  void ExpectText(const QString& sheet, const QString& text, std::optional<QPointF> place);
   /// Throws Failure with every text of a page that the sheet does not have at its place.
-  void ExpectPage(int sheet, const Page& page);
+  void ExpectPage(const QString& sheet, const Page& page);
 
  private:
   void Look();
-  QString SheetFile(int sheet);
+  /// The file of a sheet's document.
+  QString FileOf(const QString& sheet);
 
   const TestDesk& desk_;
   size_t counted_ = 0;  ///< documents that `expect printed` has counted

@@ -1,11 +1,11 @@
 // A sample proposal on the pages, compared with what its independent writer says of it.
 #pragma once
-#include "world.h"
+#include <QString>
 
 namespace quillane::scenario {
 
 /// Compares every text, column, mark and total and the number of pages with the entry of that name in
-/// "expected.json" of the folder that `home` copied.  Throws Failure with all that differs.
-void ExpectSample(World& world, const QString& name);
+/// "expected.json" of a folder.  Throws Failure with all that differs.
+void ExpectSample(const QString& folder, const QString& name);
 
 }  // namespace quillane::scenario

@@ -1,108 +1,82 @@
 #include "script.h"
 
 #include <QRegularExpression>
+#include <QStringList>
 
-#include "failure.h"
 #include "values.h"
 
 namespace quillane::scenario {
 
 namespace {
 
-QChar Unescaped(QChar letter) {
-  switch (letter.unicode()) {
-    case 'n':
-      return QLatin1Char('\n');
-    case 't':
-      return QLatin1Char('\t');
-    case 'r':
-      return QLatin1Char('\r');
-    default:
-      return letter;
+QString Unescaped(const QString& quoted) {
+  QString text;
+  for (qsizetype at = 0; at < quoted.size(); ++at) {
+    if (quoted[at] != QLatin1Char('\\') || at + 1 == quoted.size()) {
+      text += quoted[at];
+      continue;
+    }
+    const QChar letter = quoted[++at];
+    const qsizetype known = QStringLiteral("ntr").indexOf(letter);
+    text += known < 0 ? letter : QStringLiteral("\n\t\r")[known];
   }
+  return text;
 }
 
-/// Takes one line apart.
-class Scanner {
- public:
-  Scanner(const QString& text, int line) : text_(text), line_(line) {}
-
-  std::vector<Word> Words() {
-    std::vector<Word> words;
-    for (SkipBlanks(); !AtEnd(); SkipBlanks())
-      words.push_back(text_[at_] == QLatin1Char('"') ? Quoted() : Bare());
-    return words;
+Words WordsOf(const QString& line, int number) {
+  // A quoted text; or what runs to the next blank, comment or quote, where blanks in parentheses are dropped:
+  // "txt( 35 )".
+  static const QRegularExpression word(
+      QStringLiteral(R"re(\G\s*(?:"((?:\\.|[^"\\])*)"|((?:\([^)#"]*\)|[^\s#"])+)))re"));
+  Words words;
+  qsizetype at = 0;
+  for (auto match = word.match(line); match.hasMatch(); match = word.match(line, at)) {
+    const bool quoted = match.capturedStart(1) >= 0;
+    words.push_back(
+        {quoted ? Unescaped(match.captured(1)) : match.captured(2).remove(QLatin1Char(' ')), quoted});
+    at = match.capturedEnd();
   }
-
- private:
-  bool AtEnd() const { return at_ >= text_.size() || text_[at_] == QLatin1Char('#'); }
-  void SkipBlanks() {
-    while (at_ < text_.size() && text_[at_].isSpace()) ++at_;
-  }
-
-  Word Quoted() {
-    QString value;
-    for (++at_; at_ < text_.size(); ++at_) {
-      const QChar letter = text_[at_];
-      if (letter == QLatin1Char('"')) {
-        ++at_;
-        return {value, true};
-      }
-      value += letter == QLatin1Char('\\') && at_ + 1 < text_.size() ? Unescaped(text_[++at_]) : letter;
-    }
-    throw ScriptError(line_, QStringLiteral("a string in quotes has no end"));
-  }
-
-  /// Runs to the next blank or comment; blanks inside parentheses are dropped: "txt( 35 )".
-  Word Bare() {
-    QString value;
-    int depth = 0;
-    for (; at_ < text_.size(); ++at_) {
-      const QChar letter = text_[at_];
-      if (letter == QLatin1Char('(')) ++depth;
-      if (letter == QLatin1Char(')')) --depth;
-      if (letter == QLatin1Char('#') || letter == QLatin1Char('"') || (letter.isSpace() && depth <= 0)) break;
-      if (!letter.isSpace()) value += letter;
-    }
-    return {value, false};
-  }
-
-  const QString& text_;
-  int line_;
-  qsizetype at_ = 0;
-};
-
-bool IsForm(const QString& part) {
-  return part.startsWith(QLatin1String("frm"), Qt::CaseInsensitive);
+  if (line.mid(at).trimmed().startsWith(QLatin1Char('"')))
+    throw ScriptError(number, QStringLiteral("a string in quotes has no end"));
+  return words;
 }
 
-/// "List(3)" becomes "List" and 3; what has no index stays.
-void SplitIndex(ControlName& name) {
-  static const QRegularExpression indexed(QStringLiteral("^(\\w+)\\((-?\\d+)\\)$"));
-  const QRegularExpressionMatch match = indexed.match(name.property);
-  if (!match.hasMatch()) return;
-  name.property = match.captured(1);
-  name.propertyIndex = match.captured(2).toInt();
+/// True when one word of a statement is what this token of a pattern stands for.
+bool FitsToken(const QString& token, const Word& word) {
+  if (token == QLatin1String("\"text\"")) return word.quoted;
+  if (token == QLatin1String("N") || token == QLatin1String("X") || token == QLatin1String("Y"))
+    return !word.quoted && ReadNumber(word.text);
+  if (token[0].isUpper()) return true;
+  return !word.quoted && token.split(QLatin1Char('|')).contains(word.text, Qt::CaseInsensitive);
+}
+
+bool IsArgument(const QString& token) {
+  return token[0].isUpper() || token[0] == QLatin1Char('"') || token.contains(QLatin1Char('|'));
+}
+
+/// The arguments for `tokens` from `words`, the first `used` of which are spent.
+std::optional<Arguments> Fit(QStringList tokens, const Words& words, size_t used, Arguments taken) {
+  if (tokens.isEmpty()) return used == words.size() ? std::optional(taken) : std::nullopt;
+  QString token = tokens.takeFirst();
+  if (token == QLatin1String("[")) {
+    const qsizetype end = tokens.indexOf(QStringLiteral("]"));
+    if (const auto with = Fit(tokens.mid(0, end) + tokens.mid(end + 1), words, used, taken)) return with;
+    for (const QString& left : tokens.mid(0, end))
+      if (IsArgument(left)) taken.Add({});
+    return Fit(tokens.mid(end + 1), words, used, taken);
+  }
+  const bool more = token.endsWith(QLatin1String("..."));
+  if (more) token.chop(3);
+  size_t end = used;
+  while (end < words.size() && (more || end == used) && FitsToken(token, words[end])) ++end;
+  if (end == used) return std::nullopt;
+  if (IsArgument(token))
+    taken.Add(
+        Words(words.begin() + static_cast<qsizetype>(used), words.begin() + static_cast<qsizetype>(end)));
+  return Fit(tokens, words, end, taken);
 }
 
 }  // namespace
-
-bool Statement::Is(size_t index, const char* keyword) const {
-  return index < words.size() && !words[index].quoted &&
-         words[index].text.compare(QLatin1String(keyword), Qt::CaseInsensitive) == 0;
-}
-
-double Statement::Number(size_t index, const char* grammar) const {
-  const std::optional<double> number = ReadNumber(At(index));
-  if (!number) throw BadStatement(QLatin1String(grammar));
-  return *number;
-}
-
-QString Statement::Rest(size_t index) const {
-  QStringList parts;
-  for (size_t at = index; at < words.size(); ++at) parts.append(words[at].text);
-  return parts.join(QLatin1Char(' '));
-}
 
 std::vector<Statement> ParseScript(const QByteArray& text) {
   std::vector<Statement> statements;
@@ -111,21 +85,44 @@ std::vector<Statement> ParseScript(const QByteArray& text) {
   if (all.startsWith(QChar(0xFEFF))) all.remove(0, 1);
   for (const QString& line : all.split(QLatin1Char('\n'))) {
     ++number;
-    Statement statement{number, line.trimmed(), Scanner(line, number).Words()};
+    Statement statement{number, line.trimmed(), WordsOf(line, number)};
     if (!statement.words.empty()) statements.push_back(std::move(statement));
   }
   return statements;
 }
 
+QStringList Arguments::Texts(size_t at) const {
+  QStringList texts;
+  for (const Word& word : All(at)) texts.append(word.text);
+  return texts;
+}
+
+QString Arguments::Text(size_t at) const {
+  return Texts(at).join(QLatin1Char(' '));
+}
+
+double Arguments::Number(size_t at) const {
+  return ReadNumber(Text(at)).value_or(0);
+}
+
+std::optional<Arguments> Fit(const QString& pattern, const Words& words) {
+  QString spaced = pattern;
+  spaced.replace(QLatin1Char('['), QLatin1String("[ ")).replace(QLatin1Char(']'), QLatin1String(" ]"));
+  return Fit(spaced.split(QLatin1Char(' ')), words, 0, {});
+}
+
 ControlName ParseControl(const QString& text, Property property) {
+  static const QRegularExpression indexed(QStringLiteral("^(\\w+)\\((-?\\d+)\\)$"));
   QStringList parts = text.split(QLatin1Char('.'));
   ControlName name;
-  if (IsForm(parts.front())) name.form = parts.takeFirst();
+  if (parts.front().startsWith(QLatin1String("frm"), Qt::CaseInsensitive)) name.form = parts.takeFirst();
   // A property of the form itself, "frmMain.Caption", reads like a control: who looks it up decides.
   if (!parts.isEmpty()) name.control = parts.takeFirst();
-  if (property == Property::Expected) {
-    name.property = parts.join(QString());
-    SplitIndex(name);
+  if (property == Property::None) return name;
+  name.property = parts.join(QString());
+  if (const auto match = indexed.match(name.property); match.hasMatch()) {
+    name.property = match.captured(1);
+    name.propertyIndex = match.captured(2).toInt();
   }
   return name;
 }

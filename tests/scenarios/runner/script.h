@@ -1,35 +1,19 @@
-// A scenario as text: one statement a line, words and quoted strings.
+// A scenario as text: one statement a line, words and quoted strings, and the patterns that statements
+// follow.
 #pragma once
 #include <QByteArray>
 #include <QString>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
 namespace quillane::scenario {
 
-struct Word {
-  QString text;
-  bool quoted = false;
-  bool operator==(const Word&) const = default;
-};
-
-struct Statement {
-  int line = 0;    ///< counted from 1
-  QString source;  ///< as written, without blanks at its ends
-  std::vector<Word> words;
-
-  QString Verb() const { return words.front().text.toLower(); }
-  size_t Count() const { return words.size(); }
-  /// The text of a word; empty past the end.
-  QString At(size_t index) const { return index < words.size() ? words[index].text : QString(); }
-  bool Quoted(size_t index) const { return index < words.size() && words[index].quoted; }
-  /// True when the word stands there unquoted, in any case.
-  bool Is(size_t index, const char* keyword) const;
-  /// The number that stands there, decimal or hexadecimal.  Throws BadStatement with the statement's grammar
-  /// when there is none.
-  double Number(size_t index, const char* grammar) const;
-  /// The words from `index` on, joined by blanks: a file name that was written without quotes.
-  QString Rest(size_t index) const;
+/// What a statement wanted and what was there instead.
+struct Failure : std::exception {
+  Failure(QString wanted, QString found) : expected(std::move(wanted)), actual(std::move(found)) {}
+  const char* what() const noexcept override { return "a statement failed"; }
+  QString expected, actual;
 };
 
 /// What is wrong with a script itself.
@@ -38,8 +22,43 @@ struct ScriptError : std::runtime_error {
   int line;
 };
 
+struct Word {
+  QString text;
+  bool quoted = false;
+};
+using Words = std::vector<Word>;
+
+struct Statement {
+  int line = 0;    ///< counted from 1
+  QString source;  ///< as written, without blanks at its ends
+  Words words;
+};
+
 /// Reads UTF-8 text.  Throws ScriptError for a string without an end.
 std::vector<Statement> ParseScript(const QByteArray& text);
+
+/// What a statement has for the placeholders of its pattern, counted from 0.
+class Arguments {
+ public:
+  bool Has(size_t at) const { return at < at_.size() && !at_[at].empty(); }
+  Words All(size_t at) const { return Has(at) ? at_[at] : Words(); }
+  QStringList Texts(size_t at) const;
+  /// The words joined by blanks; empty for what was left out.
+  QString Text(size_t at) const;
+  /// Decimal or hexadecimal.
+  double Number(size_t at) const;
+  int Int(size_t at) const { return static_cast<int>(Number(at)); }
+  void Add(Words words) { at_.push_back(std::move(words)); }
+
+ private:
+  std::vector<Words> at_;
+};
+
+/// Fits words to a pattern such as `choose C ROW with ctrl|shift`: small letters are words of the language,
+/// in any case and without quotes; "a|b" is one of them and an argument.  A name in capitals is an argument
+/// of one word, N, X and Y one that is a number, "text" one in quotes, and "..." lets it have more than one.
+/// What stands in [ ] may be left out.  Nothing where the words do not fit.
+std::optional<Arguments> Fit(const QString& pattern, const Words& words);
 
 /// A control as scripts write it: "frmP2.txt(35).Font.Bold" is the form frmP2, the control txt(35) and the
 /// property FontBold.  The form may be left out.
@@ -48,9 +67,8 @@ struct ControlName {
   int propertyIndex = -1;  ///< of List(3)
   QString Full() const { return form.isEmpty() ? control : form + QLatin1Char('.') + control; }
 };
-/// With `takeProperty` the last part that is no control counts as the property; a form alone has an empty
-/// control.
 enum class Property { Expected, None };
+/// With Property::Expected what follows the control is the property; a form alone has an empty control.
 ControlName ParseControl(const QString& text, Property property);
 
 }  // namespace quillane::scenario

@@ -1,20 +1,17 @@
-// The statements of the script language, each a function on the world.
+// The statements of the script language.
 #pragma once
-#include <functional>
-#include <map>
-
-#include "world.h"
+#include "player.h"
 
 namespace quillane::scenario {
 
-using Handler = std::function<void(World&, const Statement&)>;
-using Handlers = std::map<QString, Handler>;
+/// A script goes on after a statement that only looks has failed.
+enum class Looks { No, Yes };
 
-/// What sets a scene before the start: home, pref, clock, screen, printers, and the files.
-const Handlers& SceneStatements();
-/// What a person does: start, focus, type, click, menu ...
-const Handlers& ActionStatements();
-/// What must be true: expect, message, nomessage, file.  A script goes on after one of these has failed.
-const Handlers& ExpectationStatements();
+/// Does what a statement says and tells whether it only looks.  Throws Failure for one that no pattern fits,
+/// and for what is not as it says.
+void Perform(Player& player, const Statement& statement, Looks& looks);
+
+/// Every statement with its pattern and what it does, a line each.
+QString Language();
 
 }  // namespace quillane::scenario

@@ -1,9 +1,8 @@
 // Comparing what a script expects with what is there.
 #pragma once
 #include <QString>
+#include <QVariant>
 #include <optional>
-
-#include "ui/font.h"
 
 namespace quillane::scenario {
 
@@ -20,25 +19,14 @@ enum class ValueKind {
 
 struct Value {
   ValueKind kind = ValueKind::Text;
-  QString text;
+  QVariant value;
+  QString Text() const;  ///< as a script writes it
 };
-
-Value TextValue(const QString& text);
-Value NameValue(const QString& text);
-Value CaptionValue(const QString& text);
-Value NumberValue(double number);
-Value TwipsValue(double twips);
-Value ColourValue(Color colour);
-Value BooleanValue(bool value);
 
 /// "&H80", "0x80" or decimal.
 std::optional<double> ReadNumber(const QString& text);
 /// True when `expected`, as a script writes it, is the value.
 bool Equal(const Value& actual, const QString& expected);
-
-/// A caption as a person reads it.
-QString WithoutAccessKey(const QString& caption);
-
 /// In quotes, with line breaks and quotes escaped as scripts write them.
 QString InQuotes(QString text);
 
