@@ -6,8 +6,10 @@
 #include <QTemporaryDir>
 
 #include "platform/files.h"
+#include "cases.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
@@ -27,17 +29,13 @@ class Openers : public testing::Test {
 };
 
 TEST_F(Openers, KnowWhatTheDesktopCannotOpen) {
-  struct Case {
-    const char *file, *bytes;
-    bool opens;
-  };
-  constexpr Case cases[] = {{"report.txt", "words", true},
+  const Cases<const char*, const char*, bool> cases = {{"report.txt", "words", true},
                             {"page.html", "<html></html>", true},  // a text too
                             {"report.odt", "PK", false},
                             {"sheet.pdf", "%PDF-1.4", false}};
-  for (const Case& given : cases) {
-    ReplaceFile(Path(given.file), given.bytes);
-    EXPECT_EQ(DesktopOpens(Path(given.file)), given.opens) << given.file;
+  for (const auto& [file, bytes, opens] : cases) {
+    ReplaceFile(Path(file), bytes);
+    EXPECT_EQ(DesktopOpens(Path(file)), opens) << file;
   }
   QFile::remove(Path("xdg-mime"));
   EXPECT_TRUE(DesktopOpens(Path("report.odt"))) << "nobody to ask";

@@ -12,6 +12,7 @@
 #include "qt/pictures.h"
 #include "qt/printers.h"
 #include "qt/qt_desk.h"
+#include "unit/cases.h"
 
 namespace quillane::test {
 
@@ -50,6 +51,31 @@ class PaperDesk : public QtDesk {
 inline void PutText(Control& area, const QString& text) {
   const Scoped building(editing.RebuildingPages, true);
   area.SetText(text);
+}
+
+/// Every kind of content that a sheet can have but a logo, in every area and on every page.
+inline void FillPages() {
+  const Scoped building(editing.RebuildingPages, true);
+  editing.UnderlineMainCategories = true;
+  for (int window = 0; window < PageCount; ++window) {
+    Page& filled = page(window);
+    for (Control& area : filled.txt)
+      area.SetText(IsNumericArea(area) ? QStringLiteral("1,2%1.50").arg(area.Index() + 10)
+                                       : QString::fromUtf8("Wágy roses – “½ dozen” n°%1").arg(area.Index()));
+    Control& moved = filled.lbl[2];
+    moved.SetLeft(moved.Left() + 333);
+    moved.SetTop(moved.Top() + 17);
+    moved.SetForeColor(colors::Red);
+    moved.SetFontItalic(true);
+    if (!filled.IsItemPage()) continue;
+    const int row = filled.FirstRow();
+    ShowRowColumns(filled, row + 3, true);
+    filled.txtQty[row + 3].SetText(QStringLiteral("12"));
+    filled.txtAmt[row + 3].SetText(QStringLiteral("104.50"));
+    filled.txt[row + 1].SetFontBold(true);
+    filled.txt[row + 2].SetForeColor(0xFF00FF);
+    filled.imgNoTax[row + filled.AmountOffset()].SetShown(true);
+  }
 }
 
 /// A fresh program with default pages and a folder of its own.

@@ -45,19 +45,23 @@ TEST(Pictures, PrintTheInstalledLogoSharpAndAnyOtherAsItIs) {
 TEST(Pictures, RefuseWhatOnlyLooksLikeAPicture) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("logo.bmp"));
-  // A bitmap of 100 by 100 pixels whose dots are missing, and one of 20,000 by 10,000.
+  // Bitmaps that are all header: of 100 by 100 pixels, and of 20,000 by 10,000.
   const QByteArray start = QByteArray::fromHex("424D00000000000000003600000028000000"),
                    end =
                        QByteArray::fromHex("0100180000000000000000000000000000000000") + QByteArray(8, '\0');
-  for (const char* size : {"6400000064000000", "204E000010270000", ""}) {
-    ReplaceFile(path, *size ? start + QByteArray::fromHex(size) + end : QByteArray());
+  const auto refusal = [&path](const QByteArray& bytes) {
+    ReplaceFile(path, bytes);
     try {
       ReadPicture(path);
-      ADD_FAILURE() << "it was read: " << size;
     } catch (const RuntimeError& error) {
-      EXPECT_EQ(error.Number(), errors::InvalidPicture);
+      return error.Number();
     }
-  }
+    return 0;
+  };
+  for (const char* size : {"6400000064000000", "204E000010270000"})
+    EXPECT_EQ(refusal(start + QByteArray::fromHex(size) + end), errors::InvalidPicture) << size;
+  for (const char* bytes : {"", "no picture"}) EXPECT_EQ(refusal(bytes), errors::InvalidPicture) << bytes;
+  EXPECT_EQ(refusal(Contents(QStringLiteral(":/icons/no-tax.svg"))), 0);
 }
 
 }  // namespace

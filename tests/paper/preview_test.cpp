@@ -73,31 +73,8 @@ class PreviewOnPaper : public testing::Test {
     view.SetZoom(Dpi / 96.0);
     view.resize(SheetSize);
     view.show();
-    for (int window = 0; window < PageCount; ++window) Fill(page(window));
+    FillPages();
     AddLogo();
-  }
-
-  /// Every kind of content that a sheet can have.
-  static void Fill(Page& filled) {
-    const Scoped building(editing.RebuildingPages, true);
-    for (Control& area : filled.txt) {
-      const bool amount = IsNumericArea(area);
-      area.SetText(amount ? QStringLiteral("1,2%1.50").arg(area.Index() + 10)
-                          : QString::fromUtf8("Wágy roses – “½ dozen” n°%1").arg(area.Index()));
-    }
-    Control& moved = filled.lbl[2];
-    moved.SetLeft(moved.Left() + 333);
-    moved.SetTop(moved.Top() + 17);
-    moved.SetForeColor(colors::Red);
-    moved.SetFontItalic(true);
-    if (!filled.IsItemPage()) return;
-    ShowRowColumns(filled, filled.FirstRow() + 3, true);
-    filled.txtQty[filled.FirstRow() + 3].SetText(QStringLiteral("12"));
-    filled.txtAmt[filled.FirstRow() + 3].SetText(QStringLiteral("104.50"));
-    filled.txt[filled.FirstRow() + 1].SetFontBold(true);
-    filled.txt[filled.FirstRow() + 2].SetForeColor(0xFF00FF);
-    filled.imgNoTax[filled.FirstRow() + filled.AmountOffset()].SetShown(true);
-    editing.UnderlineMainCategories = true;
   }
 
   void AddLogo() const {

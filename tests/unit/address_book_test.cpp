@@ -55,17 +55,15 @@ TEST_F(AddressBookTest, ANewRecordGoesBehindTheLastAndARenamedOneIsACopy) {
 }
 
 TEST_F(AddressBookTest, AChangedRecordIsAskedAboutBeforeItIsLeft) {
-  const struct {
-    Answer answer;
-    const char *screen, *names;
-  } cases[] = {{Answer::Cancel, "Ann Bells new renamed", "Ann Bell|Cher"},
-               {Answer::No, "Cher #2 row 1", "Ann Bell|Cher"},
-               {Answer::Yes, "Cher #2 row 2", "Ann Bell|Cher|Ann Bells"}};
-  for (const auto& c : cases) {
+  const Cases<Answer, const char*, const char*> cases = {
+      {Answer::Cancel, "Ann Bells new renamed", "Ann Bell|Cher"},
+      {Answer::No, "Cher #2 row 1", "Ann Bell|Cher"},
+      {Answer::Yes, "Cher #2 row 2", "Ann Bell|Cher|Ann Bells"}};
+  for (const auto& [answer, screen, names] : cases) {
     Open("Ann Bell|Cher");
     SetField(field::Name, "Ann Bells");
-    After(Row(1), c.screen, "Do you want to save the changes?", {c.answer});
-    EXPECT_EQ(GetBook(), Records(c.names));
+    After(Row(1), screen, "Do you want to save the changes?", {answer});
+    EXPECT_EQ(GetBook(), Records(names));
   }
   SetField(field::Address1, "Elm");
   for (const auto command : {NewRecordCommand, FindCommand, OpenAddressBookCommand})
@@ -77,7 +75,7 @@ TEST_F(AddressBookTest, ASaveThatDoesNotHappenCountsAsCancel) {
   Open("Ann Bell|Cher");
   After(Row(0), "Ann Bell #1 row 0");
   After(Type(field::Address1, "Bend"), "Ann Bell|Bend #1 row 0 changed");
-  SetFaultHook([](const char* step, const QString&) { return qstrcmp(step, "sync") == 0 ? EROFS : 0; });
+  BreakDisk("sync", EROFS);
   After(Row(1), "Ann Bell|Bend #1 row 0 changed", "An error occurred in SaveRecord.\nError Number: 70");
   SetField(field::Name, "Ann");
   After(Save, "Ann|Bend #1 row 0 renamed", "Error Number: 70");
@@ -93,20 +91,18 @@ TEST_F(AddressBookTest, ARowThatLeadsNowhereLeavesWhatShows) {
 }
 
 TEST_F(AddressBookTest, ADeletedRecordLeavesItsRowToANeighbour) {
-  const struct {
-    const char *names, *row, *left, *screen;
-    int TopIndex;
-  } cases[] = {{"C|A|B", "A", "C|B", "B #2 row 0", 0},
-               {"C|A|B", "B", "C|A", "A #2 row 0", 1},
-               {"C|A|B", "C", "A|B", "B #2 row 1", 1},
-               {"A", "A", "", " #1", 0}};
-  for (const auto& c : cases) {
-    Open(c.names);
-    ChooseNameCommand(c.row[0] - 'A');
+  const Cases<const char*, const char*, const char*, const char*, int> cases = {
+      {"C|A|B", "A", "C|B", "B #2 row 0", 0},
+      {"C|A|B", "B", "C|A", "A #2 row 0", 1},
+      {"C|A|B", "C", "A|B", "B #2 row 1", 1},
+      {"A", "A", "", " #1", 0}};
+  for (const auto& [names, row, left, screen, TopIndex] : cases) {
+    Open(names);
+    ChooseNameCommand(row[0] - 'A');
     SetField(field::City, "typed and not saved");
-    After(DeleteRecordCommand, c.screen, "Delete this record?");
-    EXPECT_EQ(GetBook(), Records(c.left));
-    EXPECT_TRUE(addressBook.lstNames.TopIndex == c.TopIndex && addressBook.lstNames.Visible) << c.screen;
+    After(DeleteRecordCommand, screen, "Delete this record?");
+    EXPECT_EQ(GetBook(), Records(left));
+    EXPECT_TRUE(addressBook.lstNames.TopIndex == TopIndex && addressBook.lstNames.Visible) << screen;
   }
   EXPECT_EQ(addressBook.RecordCount, 1) << "of an empty file, until it is loaded";
   SetField(field::Name, "D");
@@ -144,13 +140,13 @@ TEST_F(AddressBookTest, AFileThatIsNoBookIsReportedAndTheOtherBookOpens) {
   for (const auto& c : cases) {
     QDir().rmdir(path);
     if (c.length == -1) QDir().mkpath(path);
-    if (c.length == -2) SetFaultHook([](const char*, const QString&) { return EACCES; });
+    if (c.length == -2) BreakDisk("", EACCES);
     if (c.length >= 0) PutBook("");
     QFile::resize(path, c.length);
     After(OpenAddressBookCommand, " new", c.said);
     SetField(field::Name, "Ann Bell");
     After(Save, "Ann Bell new renamed", c.saidBySave);
-    SetFaultHook(nullptr);
+    MendDisk();
     UnloadAddressWindow();
   }
   SwitchToCompanyBookCommand();
@@ -211,9 +207,9 @@ TEST_F(AddressBookTest, TheBusinesssDetailsGoToTheirLinesOfThePreferences) {
   EXPECT_EQ(addressBook.lblInfo[field::Email] + addressBook.lblInfo[field::Notes], "Page 1 Title");
   EXPECT_EQ(FieldBelow(6) * 100 + FieldBelow(9) * 10 + FieldAbove(8), 896);
   SetField(field::Email, "Proposal");
-  SetFaultHook([](const char*, const QString&) { return EROFS; });
+  BreakDisk("", EROFS);
   After(Save, "2|3|4|5|6|7|8||9|Proposal #0", "Error Number: 70");
-  SetFaultHook(nullptr);
+  MendDisk();
   Put("UserPreferences.txt", lines.replace("Font Name:27", "Font Name:x"));  // by another program
   After(Save, " #0", "Changes will be applied in the next \"New\" or \"Open\" session.");
   EXPECT_EQ(Get("UserPreferences.txt"), lines.replace("Page Title:10", "Page Title:Proposal"));

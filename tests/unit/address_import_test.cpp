@@ -51,9 +51,9 @@ TEST_F(AddressImport, EachRecordIsSavedOrSkippedByHand) {
   EXPECT_FALSE(AddressMenuEnabled("mnuFileDelete"));
   After(SkipBatchRecordCommand, "|no name new changed");
   After(SaveBatchRecordCommand, "Cher\tx|3 Oak new renamed", "Cannot save record... no name given.");
-  SetFaultHook([](const char*, const QString&) { return EROFS; });
+  BreakDisk("", EROFS);
   After(SaveBatchRecordCommand, "Cher\tx|3 Oak new renamed", "Error Number: 70");
-  SetFaultHook(nullptr);
+  MendDisk();
   After(SaveBatchRecordCommand, "Cher\tx|3 Oak #2", "Batch Process Finished.");
   EXPECT_FALSE(WalkPanelShows());
   EXPECT_EQ(GetBook(), Record("Ann Bell", "1 Elm") + Record("Cher\tx", "3 Oak"));
@@ -72,19 +72,16 @@ TEST_F(AddressImport, TheWalkKeepsItsRecordAndItsBook) {
 }
 
 TEST_F(AddressImport, AWalkWithNothingInItSaysSo) {
-  const struct {
-    ListType type;
-    const char *clipboard, *said;
-    int last;
-  } cases[] = {{ListType::Commas, "", "There's nothing in the Clipboard Memory.", 0},
-               {ListType::Tabs, "AB", "No more records to save.", -1},
-               {ListType::MailProgram, "", "There's nothing in memory to batch process.", 0},
-               {ListType::MailProgram, "Name,x", "Error. No carriage returns found.", 0},
-               {ListType::MailProgram, "Name,x\nlost", "No more records to save.", -1}};
-  for (const auto& c : cases) {
-    Begin(c.clipboard, c.type);
-    EXPECT_EQ(Texts(), QStringList{c.said});
-    EXPECT_TRUE(WalkPanelShows() && batch.BatchLastIndex == c.last) << c.clipboard;
+  const Cases<ListType, const char*, const char*, int> cases = {
+      {ListType::Commas, "", "There's nothing in the Clipboard Memory.", 0},
+      {ListType::Tabs, "AB", "No more records to save.", -1},
+      {ListType::MailProgram, "", "There's nothing in memory to batch process.", 0},
+      {ListType::MailProgram, "Name,x", "Error. No carriage returns found.", 0},
+      {ListType::MailProgram, "Name,x\nlost", "No more records to save.", -1}};
+  for (const auto& [type, clipboard, said, last] : cases) {
+    Begin(clipboard, type);
+    EXPECT_EQ(Texts(), QStringList{said});
+    EXPECT_TRUE(WalkPanelShows() && batch.BatchLastIndex == last) << clipboard;
     After(EndBatchCommand, " new");
     EXPECT_FALSE(WalkPanelShows() || batch.CsvMode);
   }
@@ -109,10 +106,10 @@ TEST_F(AddressImport, AllRemainingRecordsAreSavedAfterOneQuestion) {
   SkipBatchRecordCommand();
   SetField(field::Address1, "as typed");
   After(save(2), "Cher|4 new renamed", "Save all 4 remaining records without looking at each?");
-  SetFaultHook([](const char*, const QString&) { return ENOSPC; });
+  BreakDisk("", ENOSPC);
   SetField(field::Address1, "typed");
   After(save(9), "Cher|typed new renamed", "Error Number: 61");
-  SetFaultHook(nullptr);
+  MendDisk();
   After(save(9), " new", "Batch Process Finished.\n2 records saved.");
   EXPECT_EQ(GetBook(), Record("Bob", "as typed") + Record("Cher", "typed") + Record("Dan", "5"));
   EXPECT_TRUE(addressBook.lstNames.ListCount() == 3 && !WalkPanelShows());

@@ -2,6 +2,7 @@
 #include "address_fixture.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
@@ -74,30 +75,25 @@ std::string AllOf(const List& list, size_t count) {
 
 TEST(AddressTexts, FieldsGoToTheSelectedCategories) {
   const char* all = "111111111";
-  const struct {
-    ListType type;
-    const char *selected, *text, *records;
-  } cases[] = {{ListType::Commas, all, "Ann,1 Elm\r\n\r\nBob,2\r\nXY", "Ann|1 Elm\n\nBob|2"},
-               {ListType::Commas, "110000001", "a,b,c,d,e", "a|b|||||||c"},
-               {ListType::Commas, "111111011", "n,1,2,c,h,w,x,e\r\n", "n|1|2|c|h|w||x|e"},
-               {ListType::Commas, all, " ,,c, ", "||c"},
-               {ListType::Commas, all, "J\r\nJohn", "\nohn"},
-               {ListType::Tabs, all, "Ann\t1, Elm\r\n\txyz", "Ann|1, Elm\n|xyz"},
-               {ListType::MailProgram, all, "Ann,1", "Ann|1"},
-               {ListType::Lines, all, "Ann\r\n1\r\n\r\nBob\r\n2 Fir\r\n\r\nJohn", "Ann|1\nBob|2 Fir\nhn"},
-               {ListType::Lines, all, "Ann\r\n\r\n\r\nBob\r\nx", "n\n|Bob|x"}};
-  for (const auto& c : cases) {
-    const DelimitedList list = ParseDelimitedList(c.text, c.type, Selected(c.selected));
-    EXPECT_EQ(AllOf(list, list.BatchRecords.size()), c.records) << c.text;
+  const Cases<ListType, const char*, const char*, const char*> cases = {
+      {ListType::Commas, all, "Ann,1 Elm\r\n\r\nBob,2\r\nXY", "Ann|1 Elm\n\nBob|2"},
+      {ListType::Commas, "110000001", "a,b,c,d,e", "a|b|||||||c"},
+      {ListType::Commas, "111111011", "n,1,2,c,h,w,x,e\r\n", "n|1|2|c|h|w||x|e"},
+      {ListType::Commas, all, " ,,c, ", "||c"},
+      {ListType::Commas, all, "J\r\nJohn", "\nohn"},
+      {ListType::Tabs, all, "Ann\t1, Elm\r\n\txyz", "Ann|1, Elm\n|xyz"},
+      {ListType::MailProgram, all, "Ann,1", "Ann|1"},
+      {ListType::Lines, all, "Ann\r\n1\r\n\r\nBob\r\n2 Fir\r\n\r\nJohn", "Ann|1\nBob|2 Fir\nhn"},
+      {ListType::Lines, all, "Ann\r\n\r\n\r\nBob\r\nx", "n\n|Bob|x"}};
+  for (const auto& [type, selected, text, records] : cases) {
+    const DelimitedList list = ParseDelimitedList(text, type, Selected(selected));
+    EXPECT_EQ(AllOf(list, list.BatchRecords.size()), records) << text;
   }
 }
 
 TEST(AddressTexts, AMailProgramsColumnsAreFoundByTheirNames) {
   const char *all = "111111111", *name = "100000000";
-  const struct {
-    Book book;
-    const char *selected, *text, *records;
-  } cases[] = {
+  const Cases<Book, const char*, const char*, const char*> cases = {
       {Book::Personal, all, "First Name,Last Name,Home City,Home State\r\nAnn,Bell,Bend,OR\r\n\"odd\r\nlost",
        "Ann Bell|||Bend, OR \n "},
       {Book::Company, all, "Name,Company,Business Fax\r\nTess,Pine,8\r\n", "Pine|||,  ||8||Tess"},
@@ -108,10 +104,10 @@ TEST(AddressTexts, AMailProgramsColumnsAreFoundByTheirNames) {
       {Book::Personal, name, "First Name,Home City\r\na,b,c,d,e,f,g,h,i\r\n", "h"},
       {Book::Personal, name, "Name,x\r\n\"S, Jr.\",x\r\n\"a, b, c\",x\r\n", "\"S\xEA Jr.\"\n\"a\xEA b"},
   };
-  for (const auto& c : cases) {
-    const auto list = ParseCsvList(c.text, c.book, Selected(c.selected));
-    ASSERT_TRUE(list) << c.text;
-    EXPECT_EQ(AllOf(*list, list->lines.size()), c.records) << c.text;
+  for (const auto& [book, selected, text, records] : cases) {
+    const auto list = ParseCsvList(text, book, Selected(selected));
+    ASSERT_TRUE(list) << text;
+    EXPECT_EQ(AllOf(*list, list->lines.size()), records) << text;
   }
   EXPECT_FALSE(ParseCsvList("Name,x", Book::Personal, Selected(name)));
 }

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "cases.h"
+
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
@@ -19,26 +22,24 @@ TEST(CodePage, EveryByteComesBack) {
 }
 
 TEST(CodePage, WhatItLacksBecomesItsNearestKin) {
-  const struct {
-    const char* typed;
-    const char* kept;
-  } cases[] = {{"Sofía Marín-Núñez", "Sofía Marín-Núñez"},
-               {"€ “quotes” ‘and’ – — … ™", "€ “quotes” ‘and’ – — … ™"},
-               {"Dvořák Łódź Škoda", "Dvorák Lódz Škoda"},
-               {"e\u0301te\u0301", "été"},  // accents typed behind their letters
-               {"x\u0301y", "xy"},          // no such letter with an accent
-               {"5\u2032 6\u2033 \u2212 1", "5' 6\" - 1"},
-               {"a\u2009b\u3000c\u2028d", "a b c d"},
-               {"zero\u200Bwidth\uFEFF", "zerowidth"},
-               {"\uFB01ne \u2167 \u2153", "fine VIII 1/3"},
-               {"\uFF21\uFF11", "A1"},
-               {"\u0416\u4E2D", "??"},
-               {"party \U0001F389!", "party ?!"},
-               {"tab\tline\nend\x7F", "tab\tline end "},
-               {"\u1E9E", "ß"},
-               {"", ""}};
-  for (const auto& c : cases)
-    EXPECT_EQ(FoldToCodePage(QString::fromUtf8(c.typed)), QString::fromUtf8(c.kept)) << c.typed;
+  const Cases<const char*, const char*> cases = {
+      {"Sofía Marín-Núñez", "Sofía Marín-Núñez"},
+      {"€ “quotes” ‘and’ – — … ™", "€ “quotes” ‘and’ – — … ™"},
+      {"Dvořák Łódź Škoda", "Dvorák Lódz Škoda"},
+      {"e\u0301te\u0301", "été"},  // accents typed behind their letters
+      {"x\u0301y", "xy"},          // no such letter with an accent
+      {"5\u2032 6\u2033 \u2212 1", "5' 6\" - 1"},
+      {"a\u2009b\u3000c\u2028d", "a b c d"},
+      {"zero\u200Bwidth\uFEFF", "zerowidth"},
+      {"\uFB01ne \u2167 \u2153", "fine VIII 1/3"},
+      {"\uFF21\uFF11", "A1"},
+      {"\u0416\u4E2D", "??"},
+      {"party \U0001F389!", "party ?!"},
+      {"tab\tline\nend\x7F", "tab\tline end "},
+      {"\u1E9E", "ß"},
+      {"", ""}};
+  for (const auto& [typed, kept] : cases)
+    EXPECT_EQ(FoldToCodePage(QString::fromUtf8(typed)), QString::fromUtf8(kept)) << typed;
 }
 
 TEST(CodePage, HalfASurrogatePairIsOneQuestionMark) {

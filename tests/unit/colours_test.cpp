@@ -2,19 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include "cases.h"
 #include "model/proposal.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
 TEST(Colours, ShowTheTextsOfThreeBars) {
-  struct Case {
-    ColourBars bars;
-    Color color;
-    const char *red, *hexOfRed, *hexValue, *intValue, *httpValue;
-  };
-  const Case cases[] = {
+  const Cases<ColourBars, Color, const char*, const char*, const char*, const char*, const char*> cases = {
       {{0, 0, 0}, 0, "0", "00", "&H00&", "0", "#000000"},
       {{5, 0, 0}, 5, "5", "5", "&H5&", "5", "#50000"},
       {{10, 5, 0}, 0x00050A, "10", "A", "&H5A&", "1290", "#A500"},
@@ -23,15 +20,15 @@ TEST(Colours, ShowTheTextsOfThreeBars) {
       {{0, 0, 1}, 0x010000, "0", "00", "&H10000&", "65536", "#00001"},
       {{256, 255, 256}, 0xFFFFFF, "255", "FF", "&HFFFFFF&", "16777215", "#FFFFFF"},
   };
-  for (const Case& c : cases) {
-    const MixedColour mixed = Mixed(c.bars);
-    EXPECT_EQ(mixed.color, c.color);
-    EXPECT_EQ(mixed.decimal[0], c.red);
-    EXPECT_EQ(mixed.hex[0], c.hexOfRed);
-    EXPECT_EQ(mixed.hexValue, c.hexValue);
-    EXPECT_EQ(mixed.intValue, c.intValue);
-    EXPECT_EQ(mixed.httpValue, c.httpValue);
-    EXPECT_EQ(Mixed(BarsOf(c.color)).color, c.color);
+  for (const auto& [bars, color, red, hexOfRed, hexValue, intValue, httpValue] : cases) {
+    const MixedColour mixed = Mixed(bars);
+    EXPECT_EQ(mixed.color, color);
+    EXPECT_EQ(mixed.decimal[0], red);
+    EXPECT_EQ(mixed.hex[0], hexOfRed);
+    EXPECT_EQ(mixed.hexValue, hexValue);
+    EXPECT_EQ(mixed.intValue, intValue);
+    EXPECT_EQ(mixed.httpValue, httpValue);
+    EXPECT_EQ(Mixed(BarsOf(color)).color, color);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "cases.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "recording_surface.h"
@@ -83,25 +84,20 @@ TEST(Draw, GivesPaperTheRestingLook) {
 }
 
 TEST(Draw, UnderlinesMainCategoriesOnly) {
-  struct Case {
-    bool option, bold;
-    float width;
-    bool underlined;
-  };
-  constexpr Case cases[] = {{true, true, 9000, true},
-                            {false, true, 9000, false},
-                            {true, false, 9000, false},
-                            {true, true, 6630, false}};
+  const Cases<bool, bool, float, bool> cases = {{true, true, 9000, true},
+                                                {false, true, 9000, false},
+                                                {true, false, 9000, false},
+                                                {true, true, 6630, false}};
   ResetState();
   Control& area = page(1).txt[3];
   area.SetText(QStringLiteral("CEREMONY"));
-  for (const Case& given : cases) {
-    editing.UnderlineMainCategories = given.option;
-    area.SetFontBold(given.bold);
-    area.SetWidth(given.width);
+  for (const auto& [option, bold, width, underlined] : cases) {
+    editing.UnderlineMainCategories = option;
+    area.SetFontBold(bold);
+    area.SetWidth(width);
     const Document paper = DrawnOf(area, DrawMode::Printing, page(1));
     const Drawn* line = paper.Find(QStringLiteral("line"));
-    ASSERT_EQ(line != nullptr, given.underlined);
+    ASSERT_EQ(line != nullptr, underlined);
     if (!line) continue;
     EXPECT_EQ(line->left, 720);
     EXPECT_EQ(line->right, 11520);

@@ -9,6 +9,7 @@
 #include "proposal_fixture.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
@@ -100,23 +101,20 @@ TEST_F(ExportTest, TellsThePeopleThePlacesAndTheTotals) {
 }
 
 TEST_F(ExportTest, NeedsANameThatAFileCanHave) {
-  struct Case {
-    const char *name, *told;
-  };
-  const Case cases[] = {
+  const Cases<const char*, const char*> cases = {
       {"Carter / Núñez",
        "Action Cancelled. File Name cannot include any of \nthe following characters: / \\ : * ? < > |"},
       {"", "Please enter the client's name in the appropriate area and save again."}};
-  for (const Case& given : cases) {
+  for (const auto& [name, told] : cases) {
     for (const auto command : {SaveAsTextCommand, CopyProposalCommand}) {
       StartNewFile();
       desk_.said.clear();
       desk_.clipboard = "before";
       Put("TempClipboardInfo.txt", "another proposal");
-      Type("frmP1.txt(2)", QString::fromUtf8(given.name));
+      Type("frmP1.txt(2)", QString::fromUtf8(name));
       SetFocus(At("frmP1.txt(5)"));
       command();
-      EXPECT_EQ(Said(), QStringList{given.told});
+      EXPECT_EQ(Said(), QStringList{told});
       EXPECT_EQ(editing.Focus, &At("frmP1.txt(2)"));
       EXPECT_EQ(desk_.clipboard, "before");
       EXPECT_TRUE(desk_.opened.isEmpty());
@@ -126,22 +124,19 @@ TEST_F(ExportTest, NeedsANameThatAFileCanHave) {
 }
 
 TEST_F(ExportTest, OpensADocumentNamedAfterTheProposal) {
-  struct Case {
-    const char *name, *file;
-  };
-  const Case cases[] = {{"Emily Carter", "Emily Carter.odt"},
-                        {"Carter / Núñez: \"A\\B\"", "Carter - Núñez- -A-B-.odt"},
-                        {"..", "-..odt"},
-                        {"", "Proposal.odt"}};
-  for (const Case& given : cases) {
+  const Cases<const char*, const char*> cases = {{"Emily Carter", "Emily Carter.odt"},
+                                                 {"Carter / Núñez: \"A\\B\"", "Carter - Núñez- -A-B-.odt"},
+                                                 {"..", "-..odt"},
+                                                 {"", "Proposal.odt"}};
+  for (const auto& [name, file] : cases) {
     StartNewFile();
-    Type("frmP1.txt(2)", QString::fromUtf8(given.name));
+    Type("frmP1.txt(2)", QString::fromUtf8(name));
     desk_.said.clear();
     desk_.opened.clear();
     SaveToWordCommand();
     ASSERT_EQ(desk_.opened.size(), 1);
     const QFileInfo written(desk_.opened[0]);
-    EXPECT_EQ(written.fileName(), QString::fromUtf8(given.file));
+    EXPECT_EQ(written.fileName(), QString::fromUtf8(file));
     EXPECT_NE(written.path() + "/", prefs.ProposalFolder);
     EXPECT_FALSE(QFileInfo(written.path()).permissions() & (QFile::ReadGroup | QFile::ReadOther));
     EXPECT_EQ(ReadWholeFile(written.filePath()), (proposal.Title + u'|' + ProposalReport()).toUtf8());

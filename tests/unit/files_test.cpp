@@ -9,9 +9,11 @@
 #include <QTemporaryDir>
 #include <cerrno>
 
+#include "cases.h"
 #include "platform/runtime_error.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
@@ -23,7 +25,7 @@ class Files : public testing::Test {
     SetDrivesFolder(folder + "drives");
   }
   void TearDown() override {
-    SetFaultHook(nullptr);
+    MendDisk();
     SetDrivesFolder({});
   }
   void Put(const QString& name, const QByteArray& bytes) const { ReplaceFile(folder + name, bytes); }
@@ -48,37 +50,25 @@ int ErrorOf(Body body) {
   return 0;
 }
 
-std::string failingStep;
-int failWith = 0;
-int FailThatStep(const char* step, const QString&) {
-  return failingStep == step ? failWith : 0;
-}
-
 TEST_F(Files, AFailingStepLeavesTheOldFileAndNoLitter) {
-  const struct {
-    const char* step;
-    int error, number;
-  } cases[] = {{"open", EACCES, errors::PermissionDenied}, {"open", ENOENT, errors::PathNotFound},
-               {"write", ENOSPC, errors::DiskFull},        {"flush", EDQUOT, errors::DiskFull},
-               {"sync", EIO, errors::PathFileAccess},      {"rename", EROFS, errors::PermissionDenied},
-               {"syncdir", EIO, errors::PathFileAccess}};
-  for (const auto& c : cases) {
-    SetFaultHook(nullptr);
+  const Cases<const char*, int, int> cases = {
+      {"open", EACCES, errors::PermissionDenied}, {"open", ENOENT, errors::PathNotFound},
+      {"write", ENOSPC, errors::DiskFull},        {"flush", EDQUOT, errors::DiskFull},
+      {"sync", EIO, errors::PathFileAccess},      {"rename", EROFS, errors::PermissionDenied},
+      {"syncdir", EIO, errors::PathFileAccess}};
+  for (const auto& [step, error, number] : cases) {
+    MendDisk();
     Put("Emily Carter.wwf", "the old proposal");
-    failingStep = c.step;
-    failWith = c.error;
-    SetFaultHook(FailThatStep);
-    EXPECT_EQ(ErrorOf([&] { Put("Emily Carter.wwf", "new"); }), c.number) << c.step;
-    EXPECT_EQ(ErrorOf([&] { Put("Another.wwf", "new"); }), c.number) << c.step;
-    EXPECT_EQ(Get("Emily Carter.wwf"), "the old proposal") << c.step;
-    EXPECT_EQ(Everything(), QStringList{"Emily Carter.wwf"}) << c.step;
+    BreakDisk(step, error);
+    EXPECT_EQ(ErrorOf([&] { Put("Emily Carter.wwf", "new"); }), number) << step;
+    EXPECT_EQ(ErrorOf([&] { Put("Another.wwf", "new"); }), number) << step;
+    EXPECT_EQ(Get("Emily Carter.wwf"), "the old proposal") << step;
+    EXPECT_EQ(Everything(), QStringList{"Emily Carter.wwf"}) << step;
   }
 }
 
 TEST_F(Files, AFileSystemThatCannotSyncAFolderIsNoFailure) {
-  failingStep = "syncdir";
-  failWith = EINVAL;
-  SetFaultHook(FailThatStep);
+  BreakDisk("syncdir", EINVAL);
   Put("a.txt", "one");
   Put("a.txt", "two");
   EXPECT_EQ(Get("a.txt"), "two");
@@ -128,16 +118,15 @@ TEST_F(Files, PathsTakeEitherSeparatorAnyCaseAndDriveLetters) {
   QDir(folder).mkpath("drives/f/Wedding Proposals/Backup");
   Put("drives/f/Wedding Proposals/Ana.wwf", "x");
   const QString root = folder + "drives/f";
-  const struct {
-    QString stored, found;
-  } cases[] = {{"F:\\Wedding Proposals\\Ana.wwf", root + "/Wedding Proposals/Ana.wwf"},
-               {"f:/wedding proposals/ANA.WWF", root + "/Wedding Proposals/Ana.wwf"},
-               {"F:", root},
-               {"F:\\", root + "/"},
-               {"F:\\wedding proposals\\New One.wwf", root + "/Wedding Proposals/New One.wwf"},
-               {"F:\\Nowhere\\backup\\x", root + "/Nowhere/backup/x"},
-               {folder + "DRIVES\\F\\Wedding Proposals\\", root + "/Wedding Proposals/"}};
-  for (const auto& c : cases) EXPECT_EQ(ResolvePath(c.stored), c.found);
+  const Cases<QString, QString> cases = {
+      {"F:\\Wedding Proposals\\Ana.wwf", root + "/Wedding Proposals/Ana.wwf"},
+      {"f:/wedding proposals/ANA.WWF", root + "/Wedding Proposals/Ana.wwf"},
+      {"F:", root},
+      {"F:\\", root + "/"},
+      {"F:\\wedding proposals\\New One.wwf", root + "/Wedding Proposals/New One.wwf"},
+      {"F:\\Nowhere\\backup\\x", root + "/Nowhere/backup/x"},
+      {folder + "DRIVES\\F\\Wedding Proposals\\", root + "/Wedding Proposals/"}};
+  for (const auto& [stored, found] : cases) EXPECT_EQ(ResolvePath(stored), found);
 
   EXPECT_TRUE(FolderExists("F:", "WEDDING PROPOSALS"));
   EXPECT_FALSE(FolderExists("F:\\Wedding Proposals", "Ana.wwf"));
@@ -171,18 +160,15 @@ TEST_F(Files, ListsAreByNameWithoutRegardToCase) {
 }
 
 TEST_F(Files, LinesComeWithoutTheirEnds) {
-  const struct {
-    QByteArray bytes;
-    QList<QByteArray> lines;
-  } cases[] = {{"", {}},
-               {"one", {"one"}},
-               {"one\r\ntwo\r\n", {"one", "two"}},
-               {"one\ntwo", {"one", "two"}},
-               {"\r\n\r\n", {"", ""}},
-               {"a\rb\r\n", {"a\rb"}}};
-  for (const auto& c : cases) {
-    Put("lines", c.bytes);
-    EXPECT_EQ(ReadFileLines(folder + "lines"), c.lines) << c.bytes.constData();
+  const Cases<QByteArray, QList<QByteArray>> cases = {{"", {}},
+                                                      {"one", {"one"}},
+                                                      {"one\r\ntwo\r\n", {"one", "two"}},
+                                                      {"one\ntwo", {"one", "two"}},
+                                                      {"\r\n\r\n", {"", ""}},
+                                                      {"a\rb\r\n", {"a\rb"}}};
+  for (const auto& [bytes, lines] : cases) {
+    Put("lines", bytes);
+    EXPECT_EQ(ReadFileLines(folder + "lines"), lines) << bytes.constData();
   }
 }
 
@@ -192,9 +178,7 @@ TEST_F(Files, WritingAtAPlaceKeepsTheRest) {
   EXPECT_EQ(Get("log"), "01ab456789");
   WriteAt(folder + "log", 13, "z");
   EXPECT_EQ(Get("log"), QByteArray("01ab456789\0\0z", 13));
-  failingStep = "write";
-  failWith = ENOSPC;
-  SetFaultHook(FailThatStep);
+  BreakDisk("write", ENOSPC);
   EXPECT_EQ(ErrorOf([&] { WriteAt(folder + "log", 1, "x"); }), errors::DiskFull);
 }
 

@@ -4,9 +4,11 @@
 
 #include <limits>
 
+#include "cases.h"
 #include "platform/runtime_error.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
@@ -68,71 +70,63 @@ TEST(Numbers, ValTakesTheLongestBeginning) {
 }
 
 TEST(Numbers, AreWrittenInTheirShortestForm) {
-  const struct {
-    float value;
-    const char *text, *str;
-  } cases[] = {{0, "0", " 0"},
-               {7.5f, "7.5", " 7.5"},
-               {0.5f, "0.5", " .5"},
-               {-0.25f, "-0.25", "-.25"},
-               {-1250, "-1250", "-1250"},
-               {1234.5f, "1234.5", " 1234.5"},
-               {0.1f, "0.1", " .1"},
-               {19.99f, "19.99", " 19.99"},
-               {16777216, "16777216", " 16777216"},
-               {123456789.0f, "123456790", " 123456790"},
-               {-0.0f, "0", " 0"},
-               {0.000125f, "0.000125", " .000125"},
-               {1e20f, "1E+20", " 1E+20"},
-               {-2.5e-9f, "-2.5E-09", "-2.5E-09"}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(SingleText(c.value).toStdString(), c.text);
-    EXPECT_EQ(StrText(c.value).toStdString(), c.str);
-    EXPECT_EQ(ToSingle(SingleText(c.value)), c.value);
+  const Cases<float, const char*, const char*> cases = {{0, "0", " 0"},
+                                                        {7.5f, "7.5", " 7.5"},
+                                                        {0.5f, "0.5", " .5"},
+                                                        {-0.25f, "-0.25", "-.25"},
+                                                        {-1250, "-1250", "-1250"},
+                                                        {1234.5f, "1234.5", " 1234.5"},
+                                                        {0.1f, "0.1", " .1"},
+                                                        {19.99f, "19.99", " 19.99"},
+                                                        {16777216, "16777216", " 16777216"},
+                                                        {123456789.0f, "123456790", " 123456790"},
+                                                        {-0.0f, "0", " 0"},
+                                                        {0.000125f, "0.000125", " .000125"},
+                                                        {1e20f, "1E+20", " 1E+20"},
+                                                        {-2.5e-9f, "-2.5E-09", "-2.5E-09"}};
+  for (const auto& [value, text, str] : cases) {
+    EXPECT_EQ(SingleText(value).toStdString(), text);
+    EXPECT_EQ(StrText(value).toStdString(), str);
+    EXPECT_EQ(ToSingle(SingleText(value)), value);
   }
 }
 
 TEST(Numbers, PatternsShowTheDigitsTheyForce) {
-  const struct {
-    QString pattern;
-    float value;
-    const char* text;
-  } cases[] = {{patterns::Money, 1234.5f, "1,234.50"},
-               {patterns::Money, 0.5f, "0.50"},
-               {patterns::Money, 0, "0.00"},
-               {patterns::Money, -1234567.0f, "-1,234,567.00"},
-               {patterns::Money, 999.995f, "1,000.00"},
-               {patterns::Money, 100, "100.00"},
-               {patterns::Money, -0.001f, "0.00"},
-               {patterns::Amount, 12, "12.00"},
-               {patterns::Product, 59.97f, "59.97"},
-               {patterns::Product, 0.5f, ".50"},
-               {patterns::Product, 0, ".00"},
-               {patterns::Product, -0.5f, "-.50"},
-               {patterns::Report, 1234.5f, "1,234.50"},
-               {patterns::Comparison, 1234.5f, "1234.50"},
-               {patterns::Comparison, 0, ".00"},
-               {patterns::Rate, 7, "7.00"},
-               {patterns::Rate, 100, "100.00"},
-               {patterns::Position, 5, "5."},
-               {patterns::Position, 5.126f, "5.13"},
-               {patterns::Position, 0.5f, ".5"},
-               {patterns::Inches, 0, "0.00"},
-               {patterns::Inches, -0.125f, "-0.13"},
-               {QStringLiteral("000"), 7, "007"},
-               {QStringLiteral("#,##0"), 1234.5f, "1,235"}};
-  for (const auto& c : cases) EXPECT_EQ(FormatNumber(c.value, c.pattern).toStdString(), c.text);
+  const Cases<QString, float, const char*> cases = {{patterns::Money, 1234.5f, "1,234.50"},
+                                                    {patterns::Money, 0.5f, "0.50"},
+                                                    {patterns::Money, 0, "0.00"},
+                                                    {patterns::Money, -1234567.0f, "-1,234,567.00"},
+                                                    {patterns::Money, 999.995f, "1,000.00"},
+                                                    {patterns::Money, 100, "100.00"},
+                                                    {patterns::Money, -0.001f, "0.00"},
+                                                    {patterns::Amount, 12, "12.00"},
+                                                    {patterns::Product, 59.97f, "59.97"},
+                                                    {patterns::Product, 0.5f, ".50"},
+                                                    {patterns::Product, 0, ".00"},
+                                                    {patterns::Product, -0.5f, "-.50"},
+                                                    {patterns::Report, 1234.5f, "1,234.50"},
+                                                    {patterns::Comparison, 1234.5f, "1234.50"},
+                                                    {patterns::Comparison, 0, ".00"},
+                                                    {patterns::Rate, 7, "7.00"},
+                                                    {patterns::Rate, 100, "100.00"},
+                                                    {patterns::Position, 5, "5."},
+                                                    {patterns::Position, 5.126f, "5.13"},
+                                                    {patterns::Position, 0.5f, ".5"},
+                                                    {patterns::Inches, 0, "0.00"},
+                                                    {patterns::Inches, -0.125f, "-0.13"},
+                                                    {QStringLiteral("000"), 7, "007"},
+                                                    {QStringLiteral("#,##0"), 1234.5f, "1,235"}};
+  for (const auto& [pattern, value, text] : cases)
+    EXPECT_EQ(FormatNumber(value, pattern).toStdString(), text);
 }
 
 // Halves are those of the digits that a person sees, not of the binary value behind them: 1.005 is stored as
 // less.
 TEST(Numbers, HalvesGoAwayFromZero) {
-  const struct {
-    float value;
-    const char* text;
-  } cases[] = {{1.005f, "1.01"},  {2.675f, "2.68"}, {-1.005f, "-1.01"}, {0.005f, "0.01"}, {0.0049f, "0.00"},
-               {9.995f, "10.00"}, {0.995f, "1.00"}, {0.05f, "0.05"},    {99.5f, "99.50"}, {0.0005f, "0.00"}};
-  for (const auto& c : cases) EXPECT_EQ(FormatNumber(c.value, patterns::Money).toStdString(), c.text);
+  const Cases<float, const char*> cases = {
+      {1.005f, "1.01"},  {2.675f, "2.68"}, {-1.005f, "-1.01"}, {0.005f, "0.01"}, {0.0049f, "0.00"},
+      {9.995f, "10.00"}, {0.995f, "1.00"}, {0.05f, "0.05"},    {99.5f, "99.50"}, {0.0005f, "0.00"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(FormatNumber(value, patterns::Money).toStdString(), text);
   EXPECT_EQ(FormatNumber(1.005, patterns::Money), "1.01");
 }
 

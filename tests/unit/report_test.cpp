@@ -30,16 +30,14 @@ TEST_F(Report, IsShownAndThenLogged) {
 }
 
 TEST_F(Report, StartsTheLogAnewOnceItIsFull) {
-  const struct {
-    int before, start;
-  } cases[] = {{0, 0}, {32765, 32765}, {32766, 32766}, {32767, 0}, {40000, 0}};
-  for (const auto& c : cases) {
-    const QByteArray old(c.before, 'o');
+  const Cases<int, int> cases = {{0, 0}, {32765, 32765}, {32766, 32766}, {32767, 0}, {40000, 0}};
+  for (const auto& [before, start] : cases) {
+    const QByteArray old(before, 'o');
     Put("Error.log", old);
     Fail();
     QByteArray expected = old;
-    expected.replace(c.start, InTheLog.size(), InTheLog);
-    EXPECT_EQ(Get("Error.log"), expected) << c.before;
+    expected.replace(start, InTheLog.size(), InTheLog);
+    EXPECT_EQ(Get("Error.log"), expected) << before;
   }
 }
 
@@ -52,13 +50,11 @@ TEST_F(Report, KeepsLineBreaksAndPercentSigns) {
 TEST_F(Report, ALogThatCannotBeWrittenLosesTheReportAndNothingElse) {
   Put("Error.log", "old");
   for (const char* failing : {"open", "write", "flush"}) {
-    static const char* step;
-    step = failing;
-    SetFaultHook([](const char* at, const QString&) { return qstrcmp(at, step) == 0 ? EROFS : 0; });
+    BreakDisk(failing, EROFS);
     Fail();
     EXPECT_TRUE(desk.LastSaid().contains("Disk full"));
   }
-  SetFaultHook(nullptr);
+  MendDisk();
   prefs.ProgramFolder += "gone/";
   Fail();
   EXPECT_EQ(desk.said.size(), 4);
