@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "unit/cases.h"
 #include "platform/files.h"
-#include "cases.h"
 
 using namespace quillane;
 using namespace quillane::test;
@@ -30,9 +30,9 @@ class Openers : public testing::Test {
 
 TEST_F(Openers, KnowWhatTheDesktopCannotOpen) {
   const Cases<const char*, const char*, bool> cases = {{"report.txt", "words", true},
-                            {"page.html", "<html></html>", true},  // a text too
-                            {"report.odt", "PK", false},
-                            {"sheet.pdf", "%PDF-1.4", false}};
+                                                       {"page.html", "<html></html>", true},  // a text too
+                                                       {"report.odt", "PK", false},
+                                                       {"sheet.pdf", "%PDF-1.4", false}};
   for (const auto& [file, bytes, opens] : cases) {
     ReplaceFile(Path(file), bytes);
     EXPECT_EQ(DesktopOpens(Path(file)), opens) << file;
