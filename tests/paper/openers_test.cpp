@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "unit/cases.h"
 #include "platform/files.h"
+#include "unit/cases.h"
 
 using namespace quillane;
 using namespace quillane::test;
