@@ -36,7 +36,7 @@ void CreateFileOf(Book book) {
   Checked(book) = true;
 }
 
-void TakeNames(Book book) {
+void SetBookNames(Book book) {
   const QString& base = book == Book::Personal ? PersonalName : CompanyName;
   addressBook.Folder = BookFolder();
   if (addressBook.AddressFileName != FileOf(book)) {
@@ -54,7 +54,7 @@ bool OpenTheBook(Book book, Create&& create) {
   if (!Checked(book)) create();
   EnableAddressMenu(QStringLiteral("mnuFileOpenClientele"), book != Book::Personal);
   EnableAddressMenu(QStringLiteral("mnuFileOpenBusiness"), book != Book::Company);
-  TakeNames(book);
+  SetBookNames(book);
   SetBookLabels();
   LoadBook();
   return true;

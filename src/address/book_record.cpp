@@ -66,7 +66,7 @@ void LoadFields() {
   for (int i = 0; i < field::Count; ++i) WriteText(i, texts[i]);
 }
 
-void TakeMarksBack() {
+void ClearChangeMarks() {
   book.FieldChanged.fill(false);
   UpdateFieldFlags();
   book.NewRecordFlag = book.NameChanged = false;
@@ -131,7 +131,7 @@ void ShowRecord() {
     book.RecordAsRead = ReadRecord(BookPath(), book.CurrentRecord);
     book.WalkRecordShows = false;
     LoadFields();
-    TakeMarksBack();
+    ClearChangeMarks();
     book.Caption = book.BookTitle + book.txt[field::Name].Text +
                    QStringLiteral("/Record %1 of %2 Displayed").arg(book.CurrentRecord).arg(book.RecordCount);
     if (CurrentBook() == Book::Personal && !book.txt[field::Name].Text.isEmpty()) EnableMerges();
@@ -150,7 +150,7 @@ SaveResult SaveRecord() {
   int number = 0;
   if (!Guarded("SaveRecord", [&] { number = WriteRecord(BytesOf(record)); })) return SaveResult::Failed;
   book.CurrentRecord = number;
-  TakeMarksBack();
+  ClearChangeMarks();
   const bool walkRecord = book.WalkRecordShows;
   Guarded("SaveRecord", ReopenBook);
   ShowRecord();

@@ -94,7 +94,7 @@ VCardProperty BestAddress(const VCard& card, Book book) {
   return best == all.end() ? all.front() : *best;
 }
 
-void TakeAddress(const VCard& card, Book book, FieldTexts& texts) {
+void FillAddress(const VCard& card, Book book, FieldTexts& texts) {
   enum { PostBox, Extended, Street, Locality, Region, Code, Country, Count };
   const QString value = BestAddress(card, book).value;
   const QStringList parts = Components(value, Count);
@@ -129,7 +129,7 @@ int PhoneField(const VCardProperty& phone, Book book) {
 }
 
 /// Fills the fields of telephones and gives the numbers that found none.
-QStringList TakePhones(const VCard& card, Book book, FieldTexts& texts) {
+QStringList FillPhones(const VCard& card, Book book, FieldTexts& texts) {
   QStringList left;
   for (const VCardProperty& phone : All(card, "TEL")) {
     const int wanted = PhoneField(phone, book);
@@ -146,7 +146,7 @@ QStringList TakePhones(const VCard& card, Book book, FieldTexts& texts) {
   return left;
 }
 
-QStringList TakeEmails(const VCard& card, FieldTexts& texts) {
+QStringList FillEmails(const VCard& card, FieldTexts& texts) {
   QStringList left;
   for (const VCardProperty& email : All(card, "EMAIL")) {
     const QString address = PlainText(email.value);
@@ -190,11 +190,11 @@ FieldTexts FieldsOfContact(const VCard& card, Book book) {
   const Names names = NamesOf(card, book);
   texts[field::Name] = names.name;
   texts[field::Contact] = names.contact;
-  TakeAddress(card, book, texts);
+  FillAddress(card, book, texts);
   QStringList notes;
   for (const VCardProperty& note : All(card, "NOTE")) notes << WithCrLf(PlainText(note.value));
   if (!names.company.isEmpty()) notes << QStringLiteral("Company: ") + names.company;
-  notes << TakePhones(card, book, texts) << TakeEmails(card, texts);
+  notes << FillPhones(card, book, texts) << FillEmails(card, texts);
   texts[field::EventDate] = EventDate(card);
   texts[field::Notes] = Joined(notes, CrLf);
   return texts;

@@ -35,7 +35,7 @@ ByteTable MakeCapitals() {
     const char byte = static_cast<char>(i);
     const QChar capital = FromCodePage(QByteArray(1, byte))[0].toUpper();
     const QByteArray bytes = ToCodePage(capital);
-    // Where the code page has only a kin of the capital, the letter is its own.
+    // Where the code page has only an equivalent of the capital, the letter is its own.
     const bool has = bytes.size() == 1 && FromCodePage(bytes) == capital;
     capitals[static_cast<size_t>(i)] = has ? bytes[0] : byte;
   }

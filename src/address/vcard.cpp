@@ -137,19 +137,19 @@ struct Head {
     if (key == QLatin1String("CHARSET")) charset = value.toUpper();
     if (key == QLatin1String("VALUE")) valueType = value.toLower();
     if (key == QLatin1String("PREF")) preference = std::clamp(value.toInt(), 1, LastPreference);
-    if (key == QLatin1String("TYPE")) TakeTypes(value);
-    if (key.isEmpty()) TakeBare(value);
+    if (key == QLatin1String("TYPE")) ReadTypes(value);
+    if (key.isEmpty()) ReadBare(value);
   }
   /// The oldest version leaves out which parameter a value is for.
-  void TakeBare(const QString& value) {
+  void ReadBare(const QString& value) {
     const QString upper = value.toUpper();
     if (upper == QLatin1String("QUOTED-PRINTABLE") || upper == QLatin1String("BASE64")) {
       encoding = upper;
     } else {
-      TakeTypes(value);
+      ReadTypes(value);
     }
   }
-  void TakeTypes(const QString& value) {
+  void ReadTypes(const QString& value) {
     for (const QString& part : SplitOutsideQuotes(value, u',')) {
       // A list may stand in quotes as a whole.
       for (const QString& type : part.toLower().split(u',')) types.append(type.trimmed());

@@ -48,11 +48,11 @@ QString EntryBehind(const QString& control) {
   return {};
 }
 
-/// An entry sleeps with the menu that it stands in, whichever way it is asked for.
-bool IsAwake(const Command& command) {
+/// An entry is disabled with the menu that it stands in, whichever way it is asked for.
+bool IsEnabled(const Command& command) {
   if (!frame()[QString::fromLatin1(command.name)].Enabled()) return false;
   const Command* menu = ByName().value(QString::fromLatin1(command.parent));
-  return !menu || IsAwake(*menu);
+  return !menu || IsEnabled(*menu);
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ void BuildMenus() {
 
 void RunCommand(const QString& name) {
   const Command* command = ByName().value(name);
-  if (!command || !command->run || !IsAwake(*command)) return;
+  if (!command || !command->run || !IsEnabled(*command)) return;
   Guarded(command->name, command->run);
 }
 

@@ -21,44 +21,46 @@ int ByteOf(char16_t c) {
   return found == Upper.end() ? -1 : 0x80 + static_cast<int>(found - Upper.begin());
 }
 
-/// Kin that no decomposition gives, in order of the character.
-struct Kin {
+/// Equivalents that no decomposition gives, in order of the character.
+struct Equivalent {
   char16_t character;
   const char* text;
 };
-constexpr Kin OtherKin[] = {{0x0110, "D"}, {0x0111, "d"},  {0x0126, "H"},    {0x0127, "h"},  {0x0131, "i"},
-                            {0x0138, "k"}, {0x0141, "L"},  {0x0142, "l"},    {0x014A, "N"},  {0x014B, "n"},
-                            {0x0166, "T"}, {0x0167, "t"},  {0x0180, "b"},    {0x0189, "D"},  {0x0197, "I"},
-                            {0x0237, "j"}, {0x02B9, "'"},  {0x02BA, "\""},   {0x02BB, "'"},  {0x02BC, "'"},
-                            {0x02C8, "'"}, {0x2010, "-"},  {0x2011, "-"},    {0x2012, "-"},  {0x2015, "-"},
-                            {0x201B, "'"}, {0x201F, "\""}, {0x2027, "\xB7"}, {0x2028, " "},  {0x2029, " "},
-                            {0x2032, "'"}, {0x2033, "\""}, {0x2035, "'"},    {0x2036, "\""}, {0x2043, "-"},
-                            {0x2044, "/"}, {0x2212, "-"},  {0x2215, "/"},    {0x2217, "*"},  {0x2219, "\xB7"},
-                            {0x2223, "|"}, {0x223C, "~"},  {0x25CF, "\x95"}, {0x301D, "\""}, {0x301E, "\""}};
+constexpr Equivalent OtherEquivalents[] = {
+    {0x0110, "D"},    {0x0111, "d"},  {0x0126, "H"},  {0x0127, "h"},    {0x0131, "i"}, {0x0138, "k"},
+    {0x0141, "L"},    {0x0142, "l"},  {0x014A, "N"},  {0x014B, "n"},    {0x0166, "T"}, {0x0167, "t"},
+    {0x0180, "b"},    {0x0189, "D"},  {0x0197, "I"},  {0x0237, "j"},    {0x02B9, "'"}, {0x02BA, "\""},
+    {0x02BB, "'"},    {0x02BC, "'"},  {0x02C8, "'"},  {0x2010, "-"},    {0x2011, "-"}, {0x2012, "-"},
+    {0x2015, "-"},    {0x201B, "'"},  {0x201F, "\""}, {0x2027, "\xB7"}, {0x2028, " "}, {0x2029, " "},
+    {0x2032, "'"},    {0x2033, "\""}, {0x2035, "'"},  {0x2036, "\""},   {0x2043, "-"}, {0x2044, "/"},
+    {0x2212, "-"},    {0x2215, "/"},  {0x2217, "*"},  {0x2219, "\xB7"}, {0x2223, "|"}, {0x223C, "~"},
+    {0x25CF, "\x95"}, {0x301D, "\""}, {0x301E, "\""}};
 
 bool TakesNoRoom(QChar c) {
   return c.category() == QChar::Other_Format || c.category() == QChar::Mark_NonSpacing ||
          c.category() == QChar::Mark_Enclosing;
 }
 
-/// The kin of one character that the code page lacks; empty for one that takes no room of its own.
-QString KinOf(QChar c);
+/// The closest equivalent of one character that the code page lacks; empty for one that takes no room of its
+/// own.
+QString EquivalentOf(QChar c);
 
-QString KinOfParts(const QString& parts) {
-  QString kin;
-  for (const QChar part : parts) kin += ByteOf(part.unicode()) >= 0 ? QString(part) : KinOf(part);
-  return kin.contains(u'?') ? QStringLiteral("?") : kin;
+QString EquivalentOfParts(const QString& parts) {
+  QString equivalent;
+  for (const QChar part : parts)
+    equivalent += ByteOf(part.unicode()) >= 0 ? QString(part) : EquivalentOf(part);
+  return equivalent.contains(u'?') ? QStringLiteral("?") : equivalent;
 }
 
-QString KinOf(QChar c) {
-  const auto listed = std::find_if(std::begin(OtherKin), std::end(OtherKin),
-                                   [c](const Kin& kin) { return kin.character == c.unicode(); });
-  if (listed != std::end(OtherKin)) return FromCodePage(listed->text);
+QString EquivalentOf(QChar c) {
+  const auto listed = std::find_if(std::begin(OtherEquivalents), std::end(OtherEquivalents),
+                                   [c](const Equivalent& entry) { return entry.character == c.unicode(); });
+  if (listed != std::end(OtherEquivalents)) return FromCodePage(listed->text);
   if (c == QChar(0x1E9E)) return QStringLiteral("\u00DF");
   if (TakesNoRoom(c)) return {};
   if (c.isSpace() || c.category() == QChar::Other_Control) return QStringLiteral(" ");
   const QString parts = QString(c).normalized(QString::NormalizationForm_KD);
-  return parts == c ? QStringLiteral("?") : KinOfParts(parts);
+  return parts == c ? QStringLiteral("?") : EquivalentOfParts(parts);
 }
 
 bool IsControl(QChar c) {
@@ -88,7 +90,7 @@ QString Fold(const QString& text, Controls controls) {
       folded += u'?';
       if (c.isHighSurrogate() && i + 1 < composed.size() && composed[i + 1].isLowSurrogate()) ++i;
     } else {
-      folded += KinOf(c);
+      folded += EquivalentOf(c);
     }
   }
   return folded;

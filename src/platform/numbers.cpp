@@ -56,7 +56,7 @@ class Scanner {
     ++at_;
     return true;
   }
-  bool TakeSign() {
+  bool ParseSign() {
     if (signed_ || (Peek() != u'+' && Peek() != u'-')) return false;
     negative_ = text_[at_++] == u'-';
     return signed_ = true;
@@ -73,7 +73,7 @@ class Scanner {
   bool Prefix() {
     for (bool moved = true; moved;) {
       Blanks();
-      moved = TakeSign() || (!dollar_ && (dollar_ = Take(u'$'))) ||
+      moved = ParseSign() || (!dollar_ && (dollar_ = Take(u'$'))) ||
               (!parentheses_ && (parentheses_ = Take(u'(')));
     }
     return !(parentheses_ && signed_);
@@ -102,7 +102,7 @@ class Scanner {
 
   bool Suffix() {
     Blanks();
-    if (!parentheses_) TakeSign();
+    if (!parentheses_) ParseSign();
     Blanks();
     if (parentheses_) {
       if (!Take(u')')) return false;

@@ -26,18 +26,18 @@ constexpr const char* Waiting[] = {"mnuEdit",
                                    "imgSpellCheck",
                                    "cmdClearMem"};
 
-/// Those of them that were awake when the preview began.
-QStringList& PutToSleep() {
+/// Those of them that were enabled when the preview began.
+QStringList& DisabledByPreview() {
   static QStringList names;
   return names;
 }
 
 void EndEditing() {
-  PutToSleep().clear();
+  DisabledByPreview().clear();
   for (const char* name : Waiting) {
     Control* control = frame().Find(QString::fromLatin1(name));
     if (!control || !control->Enabled()) continue;
-    PutToSleep().append(QString::fromLatin1(name));
+    DisabledByPreview().append(QString::fromLatin1(name));
     control->SetEnabled(false);
   }
 }
@@ -58,7 +58,6 @@ void BeginPreview() {
   MarkPreview(Preview::Shows);
   OfferResume(true);
   EndEditing();
-  editing.CurrentFormName = page(editing.FrontWindow).form.name;
   PrepareDrawing();
 }
 
@@ -77,9 +76,9 @@ void PrintPreview() {
 
 void ResumeEditing() {
   Guarded("ResumeEditing", [] {
-    for (const QString& name : PutToSleep())
+    for (const QString& name : DisabledByPreview())
       if (Control* control = frame().Find(name)) control->SetEnabled(true);
-    PutToSleep().clear();
+    DisabledByPreview().clear();
   });
 }
 

@@ -29,12 +29,6 @@ QString& Message() {
   return message;
 }
 
-const Page* PageNamed(const QString& name) {
-  for (int i = 0; i < PageCount; ++i)
-    if (page(i).form.name == name) return &page(i);
-  return nullptr;
-}
-
 QString DocumentName(const Page& printed) {
   QString name = proposal.BaseName.isEmpty() ? QStringLiteral("Proposal") : proposal.BaseName;
   name.replace(QLatin1Char('/'), QLatin1Char('-'));  // a client's name may have what a file's may not
@@ -74,10 +68,9 @@ QString MessageFor(const Page& printed) {
 
 void PrintOne(int window) {
   const Page& printed = page(window);
-  editing.CurrentFormName = printed.form.name;
   Message() = MessageFor(printed);
   desk().ShowWindow(QStringLiteral("frmDialog"), Modality::Modeless);
-  PrintTheForm();
+  PrintTheForm(printed);
   desk().CloseWindow(QStringLiteral("frmDialog"));
 }
 
@@ -99,13 +92,11 @@ void PrepareDrawing() {
   ClearGrid(page(editing.FrontWindow));
 }
 
-void PrintTheForm() {
+void PrintTheForm(const Page& printed) {
   PrepareDrawing();
   const Scoped rebuilding(editing.RebuildingPages, true);
-  const Page* printed = PageNamed(editing.CurrentFormName);
-  if (!printed) return;
   try {
-    DrawDocument(*printed);
+    DrawDocument(printed);
   } catch (const RuntimeError& error) {
     ReportPrintError(error);
   }

@@ -4,12 +4,12 @@
 
 namespace quillane {
 
-class Control;
+class Page;
 
 inline const QString PdfPrinter = QStringLiteral("PDF File");
 
-/// Prints the page named by editing.CurrentFormName on the current printer as a document of its own.
-void PrintTheForm();
+/// Prints the page on the current printer as a document of its own.  A failure is told.
+void PrintTheForm(const Page& printed);
 /// The commands: page 0 to 5, 6 for the copy.
 void PrintPageCommand(int window);
 void PrintAllCommand();

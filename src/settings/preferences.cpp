@@ -91,14 +91,14 @@ void ReadLines() {
 }
 
 /// True on the very first start.  The run remembers it, the file no longer says so.
-bool TakeFirstInstance() {
+bool ReadFirstInstance() {
   if (!IsTrue(Setting::FirstInstance)) return false;
   prefs.FirstInstance = true;
   SetPrefLine(Setting::FirstInstance, BooleanText(false));
   return true;
 }
 
-void TakeTexts() {
+void ReadTexts() {
   prefs.SharedDirectory = ValueOf(Setting::SharedDirectory).trimmed();
   prefs.CompanyName = ValueOf(Setting::CompanyName);
   prefs.CompanyAddress1 = ValueOf(Setting::CompanyAddress1);
@@ -117,7 +117,7 @@ void TakeTexts() {
   prefs.PageTitles = ValueOf(Setting::PageTitles);
 }
 
-void TakeSwitches() {
+void ReadSwitches() {
   prefs.AutoCompleteWord = IsTrue(Setting::AutoCompleteWord);
   prefs.AutoStartPosition = static_cast<int>(NumberOf(Setting::AutoStartPosition));
   prefs.ShowFUT = IsTrue(Setting::ShowFUT);
@@ -128,7 +128,7 @@ void TakeSwitches() {
   prefs.LogoVisible = IsTrue(Setting::LogoVisible);
 }
 
-void TakeDefaultFont() {
+void ReadDefaultFont() {
   const UserFont fallback;
   const QString name = ValueOf(Setting::FontName).trimmed();
   const float size = NumberOf(Setting::FontSize);
@@ -141,7 +141,7 @@ bool HasFolder(const QString& file) {
 }
 
 /// A place of 0 is no place: the logo stays where it was.
-void TakeLogo() {
+void ReadLogo() {
   if (const float left = NumberOf(Setting::LogoLeft); left != 0) prefs.LogoLeft = left;
   if (const float top = NumberOf(Setting::LogoTop); top != 0) prefs.LogoTop = top;
   const QString folder =
@@ -150,7 +150,7 @@ void TakeLogo() {
 }
 
 /// "Left=100:Top=200:Width=3000:Height=4000", in any order; what is missing keeps what it had.
-void TakeTermsWindowPlace() {
+void ReadTermsWindowPlace() {
   const QString place = ValueOf(Setting::FUTPosition);
   const auto take = [&place](const QString& part, float& value) {
     const qsizetype at = place.indexOf(part);
@@ -165,7 +165,7 @@ void TakeTermsWindowPlace() {
 }
 
 /// Makes the stored printer the current one where it is installed; otherwise the system's own stays.
-void TakePrinter() {
+void ReadPrinter() {
   if (prefs.DefaultPrinter.isEmpty()) return;
   try {
     if (desk().HasPrinter(prefs.DefaultPrinter)) printing.CurrentPrinter = prefs.DefaultPrinter;
@@ -235,7 +235,7 @@ void MakeBackupFolder() {
   if (!HasSubFolder(prefs.ProposalFolder, QStringLiteral("Backup"))) MakeFolder(prefs.BackupFolder);
 }
 
-void TakeTermsForSession() {
+void CopyTermsForSession() {
   if (!prefs.FrequentTermsFile.isEmpty() && prefs.LoadFUT) {
     terms.FileName = prefs.FrequentTermsFile;
     terms.FileLoaded = true;
@@ -245,7 +245,7 @@ void TakeTermsForSession() {
 }
 
 /// What the session changes on its own from here on, and a later reading must therefore leave alone.
-void TakeSessionCopies() {
+void CopyForSession() {
   if (prefs.SessionCopiesTaken) return;
   proposal.UDP = prefs.DefaultFont;
   if (!prefs.PageTitles.isEmpty()) proposal.SubTitle = prefs.PageTitles;
@@ -257,7 +257,7 @@ void TakeSessionCopies() {
   format.FormatFolder = prefs.ProposalFolder;
   // Where the first reading failed and a proposal has been opened since, its folder is the open file's.
   if (!proposal.FileIsNamed) proposal.CurrentFolder = prefs.ProposalFolder;
-  TakeTermsForSession();
+  CopyTermsForSession();
   prefs.SessionCopiesTaken = true;
 }
 
@@ -270,15 +270,15 @@ void RequireEveryLine() {
 
 void ReadPreferences() {
   ReadLines();
-  const bool first = TakeFirstInstance();
-  TakeTexts();
-  TakeSwitches();
-  TakeDefaultFont();
-  TakeLogo();
-  TakeTermsWindowPlace();
-  TakePrinter();
+  const bool first = ReadFirstInstance();
+  ReadTexts();
+  ReadSwitches();
+  ReadDefaultFont();
+  ReadLogo();
+  ReadTermsWindowPlace();
+  ReadPrinter();
   WorkOutFolders();
-  TakeSessionCopies();
+  CopyForSession();
   if (first) SaveUserPreferences();
   MakeBackupFolder();
   RequireEveryLine();

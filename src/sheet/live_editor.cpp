@@ -45,7 +45,7 @@ LiveEditor::LiveEditor(SheetView& view) : QLineEdit(&view), view_(view) {
   connect(this, &QLineEdit::cursorPositionChanged, this, &LiveEditor::ShowCaret);
 }
 
-void LiveEditor::Wear(const Control& control) {
+void LiveEditor::ApplyLook(const Control& control) {
   QFont scaled = MakeFont(control.GetFont());
   scaled.setPixelSize(std::max(1, static_cast<int>(std::lround(scaled.pixelSize() / view_.TwipsPerPixel()))));
   if (font() != scaled) setFont(scaled);

@@ -10,15 +10,15 @@ class SheetView;
 
 /// Keeps text, caret, selection, undo and input methods as a line edit does; what a key or a button means is
 /// decided by the sheet view.  It paints its text with the page's own drawing, so that nothing moves when an
-/// area gets live.
+/// area gets the focus.
 class LiveEditor : public QLineEdit {
   Q_OBJECT
 
  public:
   explicit LiveEditor(SheetView& view);
 
-  /// Takes font and colours of the control over which it stands.
-  void Wear(const Control& control);
+  /// Applies the font and the colours of the control over which it stands.
+  void ApplyLook(const Control& control);
   /// What a line edit does with a key by itself.
   void EditKey(QKeyEvent* event) { QLineEdit::keyPressEvent(event); }
 

@@ -1,4 +1,4 @@
-// The hands: keys, buttons, drops and the wheel of the sheet view.
+// Input events of the sheet view: keys, buttons, drops and the wheel.
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHelpEvent>
@@ -135,7 +135,7 @@ SheetView::Step SheetView::RunHandler(const char* name, Body&& body) {
   CaretToControl();
   Handled handled = Handled::No;
   const bool ran = Guarded(name, [&] { handled = body(); });
-  TakeFromControl();
+  UpdateFromControl();
   const bool stayed = focused_ == before && window_ == window;
   return ran && stayed && handled == Handled::No ? Step::Goes : Step::Stopped;
 }
@@ -230,7 +230,7 @@ void SheetView::Paste() {
   if (!AcceptsTyping(*focused_)) return;
   QString text;
   Guarded("txt_KeyDown", [&] { text = PasteInto(*focused_, OneLine(desk().ClipboardText())); });
-  TakeFromControl();
+  UpdateFromControl();
   if (!text.isEmpty()) Insert(text);
 }
 
@@ -283,7 +283,7 @@ void SheetView::TellPage(PageMouseEvent::What what, const QMouseEvent& event) {
   Guarded("Form_MouseDown", [&] {
     pageMouse({what, CurrentPage(), pressed_, twips, event.button(), event.buttons(), event.modifiers()});
   });
-  TakeFromControl();
+  UpdateFromControl();
 }
 
 void SheetView::mousePressEvent(QMouseEvent* event) {
@@ -325,7 +325,7 @@ void SheetView::mouseReleaseEvent(QMouseEvent* event) {
   } else if (pressed->GetKind() == Kind::Image && event->button() == Qt::LeftButton &&
              ControlAt(ToTwips(event->position())) == pressed) {
     Guarded("imgNoTax_Click", [&] { MarkClicked(*pressed); });
-    TakeFromControl();
+    UpdateFromControl();
   }
   pressed_ = nullptr;
 }

@@ -175,11 +175,11 @@ void SheetView::FocusControl(Control* control) {
 
 void SheetView::ShowEditor(Arrival arrival) {
   editor_->setReadOnly(focused_->Locked());
-  TakeFromControl();
+  UpdateFromControl();
   if (arrival == Arrival::Comes) LeaveArea(*editor_);
   editor_->setAccessibleName(AreaName(CurrentPage(), *focused_));
   editor_->setAccessibleDescription(AreaRemark(CurrentPage(), *focused_));
-  editor_->Wear(*focused_);
+  editor_->ApplyLook(*focused_);
   Reveal(*focused_);
   PlaceEditor();
   editor_->show();
@@ -222,10 +222,10 @@ void SheetView::TextToControl() {
   if (editor_->text() == focused_->Text()) return CaretToControl();
   Control& area = *focused_;
   Guarded("txt_Change", [&] { area.Typed(editor_->text(), editor_->cursorPosition()); });
-  TakeFromControl();
+  UpdateFromControl();
 }
 
-void SheetView::TakeFromControl() {
+void SheetView::UpdateFromControl() {
   if (!focused_ || syncing_) return;
   if (editor_->text() != focused_->Text()) editor_->setText(focused_->Text());
   const int start = focused_->SelStart(), length = focused_->SelLength();
@@ -251,10 +251,10 @@ void SheetView::AfterChange(Control& control, Aspect aspect) {
   switch (aspect) {
     case Aspect::Text:
     case Aspect::Caret:
-      return TakeFromControl();
+      return UpdateFromControl();
     case Aspect::Colour:
     case Aspect::Font:
-      editor_->Wear(control);
+      editor_->ApplyLook(control);
       return;
     case Aspect::Geometry:
       PlaceEditor();
@@ -315,7 +315,7 @@ void SheetView::PaintControls(QPainter& painter, const QRect& stale) const {
       PaintControl(painter, surface, *control);
 }
 
-/// The rectangle of a drag, over everything else: it belongs to the hand and not to the page.
+/// The rectangle of a drag, over everything else: it is the view's and not the page's.
 void SheetView::PaintBand(QPainter& painter) const {
   const Page& front = CurrentPage();
   if (front.shpSelect.empty() || !front.shpSelect[0].Visible() || mode_ == DrawMode::Printing) return;

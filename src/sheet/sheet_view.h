@@ -119,7 +119,7 @@ class SheetView : public QWidget, private FormObserver {
   bool Shows(const Control& control) const;
   void CaretToControl();
   void TextToControl();
-  void TakeFromControl();
+  void UpdateFromControl();
 
   template <class Body>
   Step RunHandler(const char* name, Body&& body);

@@ -14,7 +14,6 @@
 #include <QVBoxLayout>
 
 #include "app/commands.h"
-#include "app/startup.h"
 #include "editing/areas.h"
 #include "editing/navigation.h"
 #include "model/proposal.h"
@@ -124,10 +123,10 @@ void FrameWindow::ConnectModel() {
   upcalls().RedrawPage = RedrawPage;
   sheet_->scrollTo = [](int value) { frame().VScroll1.Value = qBound(0, value, frame().VScroll1.Max); };
   auto* band = new RubberBand(*sheet_);  // lives as long as the sheet's view
-  labelHands_ = std::make_unique<LabelHands>(*sheet_);
+  labelInput_ = std::make_unique<LabelInput>(*sheet_);
   sheet_->pageMouse = [this, band](const PageMouseEvent& event) {
     if (event.control)
-      labelHands_->Handle(event);
+      labelInput_->Handle(event);
     else
       band->Handle(event);
   };

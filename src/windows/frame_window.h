@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "model/frame.h"
-#include "sheet/label_drag.h"
+#include "sheet/label_input.h"
 #include "windows/menus.h"
 
 class QHBoxLayout;
@@ -70,7 +70,7 @@ class FrameWindow : public QMainWindow, private FormObserver {
   StatusLine* statusLine_ = nullptr;
   QHash<const Control*, QWidget*> widgets_;
   std::unique_ptr<Menus> menus_;
-  std::unique_ptr<LabelHands> labelHands_;
+  std::unique_ptr<LabelInput> labelInput_;
   bool titleStale_ = false;
 };
 

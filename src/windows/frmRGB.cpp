@@ -1,4 +1,4 @@
-// "More Colors": any colour, mixed of red, green and blue.  The window itself wears the colour.
+// "More Colors": any colour, mixed of red, green and blue.  The window itself shows the colour.
 #include <QApplication>
 #include <QDialog>
 #include <QFormLayout>

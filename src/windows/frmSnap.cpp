@@ -15,7 +15,7 @@ namespace quillane {
 
 namespace {
 
-void TakeAndClose(QDialog& dialog, QLineEdit& box) {
+void ApplyAndClose(QDialog& dialog, QLineEdit& box) {
   const bool heard = Guarded("cmdOK_Click", [&] {
     if (TakeSnap(box.text())) dialog.accept();
   });
@@ -42,7 +42,7 @@ QHBoxLayout* MakeQuickButtons(QDialog& dialog, QLineEdit& box) {
     button->setToolTip(SnapToolTip(inches));
     QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, &box, inches] {
       box.setText(inches);
-      TakeAndClose(dialog, box);
+      ApplyAndClose(dialog, box);
     });
     row->addWidget(button);
   }
@@ -75,7 +75,7 @@ std::unique_ptr<QDialog> MakeSnapWindow(QWidget* parent) {
 
   QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
   QObject::connect(buttons, &QDialogButtonBox::accepted, dialog,
-                   [dialog, box] { TakeAndClose(*dialog, *box); });
+                   [dialog, box] { ApplyAndClose(*dialog, *box); });
   return window;
 }
 

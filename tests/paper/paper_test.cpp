@@ -21,10 +21,9 @@ class Paper : public testing::Test {
   void SetUp() override { FillPages(); }
 
   PdfPage Print(int window) {
-    editing.CurrentFormName = page(window).form.name;
     fresh.desk.documents.clear();
     FindPrinter();
-    PrintTheForm();
+    PrintTheForm(page(window));
     EXPECT_EQ(fresh.desk.documents.size(), 1);
     const std::vector<PdfPage> pages = ReadPdf(fresh.desk.documents.value(0));
     EXPECT_EQ(pages.size(), 1U);

@@ -93,10 +93,9 @@ class PreviewOnPaper : public testing::Test {
   }
 
   QImage OnPaper(int window) {
-    editing.CurrentFormName = page(window).form.name;
     fresh.desk.documents.clear();
     FindPrinter();
-    PrintTheForm();
+    PrintTheForm(page(window));
     EXPECT_EQ(fresh.desk.documents.size(), 1);
     const QString picture = prefs.ProposalFolder + QStringLiteral("sheet");
     QProcess renderer;

@@ -13,7 +13,7 @@
 #include "model/upcalls.h"
 #include "paper_desk.h"
 #include "platform/codepage.h"
-#include "sheet/label_drag.h"
+#include "sheet/label_input.h"
 #include "sheet/rubber_band.h"
 #include "sheet/sheet_view.h"
 
@@ -323,8 +323,8 @@ TEST_F(Sheet, SlidesUnderABandThatIsPulledOutOfIt) {
 TEST_F(Sheet, HandsOverALabelUnderAnAreaWithCtrlAndSlidesUnderItsDrag) {
   view.resize(900, 500);
   view.scrollTo = [this](int value) { view.SetScroll(std::clamp(value, 0, 9000)); };
-  LabelHands hands(view);
-  view.pageMouse = [&](const PageMouseEvent& event) { hands.Handle(event); };
+  LabelInput input(view);
+  view.pageMouse = [&](const PageMouseEvent& event) { input.Handle(event); };
   Control& label = page(1).lbl[38];
   label.SetLeft(page(1).txt[5].Left() + 100);
   label.SetTop(page(1).txt[5].Top());

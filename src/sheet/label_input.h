@@ -9,9 +9,9 @@ class SheetView;
 struct PageMouseEvent;
 
 /// Turns presses, moves and releases into the handlers of pages/labels.h.
-class LabelHands {
+class LabelInput {
  public:
-  explicit LabelHands(SheetView& view)
+  explicit LabelInput(SheetView& view)
       : view_(view), pull_(view, [this](QPointF twips) { BringTo(twips); }) {}
   /// Takes an event on any control; those that are no label of the page or its logo are passed over.
   void Handle(const PageMouseEvent& event);

@@ -1,4 +1,4 @@
-#include "sheet/label_drag.h"
+#include "sheet/label_input.h"
 
 #include <algorithm>
 
@@ -21,7 +21,7 @@ QPointF Inside(const Control& control, QPointF twips) {
   return twips - QPointF(double{control.Left()}, double{control.Top()});
 }
 
-/// A hand that leaves the paper, or what shows of it, does not take the label along, or it would be lost
+/// A pointer that leaves the paper, or what shows of it, does not take the label along, or it would be lost
 /// there.
 QPointF OnShownPaper(const SheetView& view, QPointF twips) {
   const QPointF first = view.ToTwips({0, 0}), last = view.ToTwips({view.width() - 1.0, view.height() - 1.0});
@@ -37,7 +37,7 @@ DragStep StepTowards(Control& control, QPointF twips) {
 
 }  // namespace
 
-void LabelHands::Handle(const PageMouseEvent& event) {
+void LabelInput::Handle(const PageMouseEvent& event) {
   if (!IsLogo(*event.control) && event.control->Array() != QLatin1String("lbl")) return;
   switch (event.what) {
     case PageMouseEvent::What::Press:
@@ -51,7 +51,7 @@ void LabelHands::Handle(const PageMouseEvent& event) {
   }
 }
 
-void LabelHands::Press(const PageMouseEvent& event) {
+void LabelInput::Press(const PageMouseEvent& event) {
   if (event.button != Qt::LeftButton && event.button != Qt::RightButton) return;
   lastHeld_ = held_ = event.control;
   const QPointF at = Inside(*event.control, event.twips);
@@ -65,20 +65,20 @@ void LabelHands::Press(const PageMouseEvent& event) {
 
 /// The label moves under the pointer, which then has another place inside it: the move is told again until
 /// the label has caught up.
-void LabelHands::BringTo(QPointF twips) {
+void LabelInput::BringTo(QPointF twips) {
   if (!held_) return;
   const QPointF to = OnShownPaper(view_, twips);
   for (int i = 0; i < MostSteps; ++i)
     if (StepTowards(*held_, to) == DragStep::Rests) return;
 }
 
-void LabelHands::Move(const PageMouseEvent& event) {
+void LabelInput::Move(const PageMouseEvent& event) {
   if (event.control != held_) return;
   BringTo(event.twips);
   if (event.buttons.testFlag(Qt::LeftButton)) pull_.PointerAt(event.twips);
 }
 
-void LabelHands::Release(const PageMouseEvent& event) {
+void LabelInput::Release(const PageMouseEvent& event) {
   pull_.Stop();
   if (std::exchange(held_, nullptr) != event.control) return;
   view_.setCursor(Qt::ArrowCursor);
@@ -90,7 +90,7 @@ void LabelHands::Release(const PageMouseEvent& event) {
 }
 
 /// The first click of a pair may have brought another page to the front; its second is then meant for none.
-void LabelHands::DoubleClick(const PageMouseEvent& event) {
+void LabelInput::DoubleClick(const PageMouseEvent& event) {
   if (event.button == Qt::LeftButton && !IsLogo(*event.control) && event.control == lastHeld_)
     lbl_DblClick(*event.control);
 }
