@@ -1,6 +1,7 @@
 // Tables of related cases, and a disk that fails where a test says.
 #pragma once
-#include <QString>
+#include <QStringList>
+#include <QVariant>
 #include <tuple>
 #include <vector>
 
@@ -11,6 +12,12 @@ namespace quillane::test {
 /// The rows of a table; a loop takes each apart by a structured binding.
 template <class... Columns>
 using Cases = std::vector<std::tuple<Columns...>>;
+
+/// Values side by side, as in "Arial|9.75|true", for one look at what belongs together.
+template <class... Values>
+QString Joined(const Values&... values) {
+  return QStringList{QVariant(values).toString()...}.join(u'|');
+}
 
 struct DiskFault {
   QString step, ending;

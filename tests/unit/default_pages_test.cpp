@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "cases.h"
 #include "fake_desk.h"
 #include "model/frame.h"
 #include "model/page.h"
@@ -11,6 +12,7 @@
 #include "platform/runtime_error.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
@@ -36,65 +38,37 @@ class DefaultPages : public testing::Test {
   test::FakeDesk desk_;
 };
 
-struct LabelCase {
-  const char* name;
-  float left, top, size;
-  bool bold;
-  const char* caption;
-};
+/// "left,top size b|caption" of a label in the letterhead's face; b when it is bold.
+QString LabelAt(const char* name) {
+  const Control& label = *FindPageControl(name);
+  const Font& font = label.GetFont();
+  EXPECT_EQ(font, (Font{"Times New Roman", font.size, font.bold, true, false})) << name;
+  EXPECT_TRUE(label.Visible()) << name;
+  return QString("%1,%2 %3%4|").arg(label.Left()).arg(label.Top()).arg(font.size).arg(font.bold ? " b" : "") +
+         label.Caption();
+}
 
-void ExpectLabels(const std::vector<LabelCase>& cases) {
-  for (const LabelCase& c : cases) {
-    SCOPED_TRACE(c.name);
-    const Control* label = FindPageControl(c.name);
-    ASSERT_TRUE(label);
-    EXPECT_EQ(label->Caption(), c.caption);
-    EXPECT_FLOAT_EQ(label->Left(), c.left);
-    EXPECT_FLOAT_EQ(label->Top(), c.top);
-    EXPECT_EQ(label->GetFont(), (Font{"Times New Roman", c.size, c.bold, true, false}));
-    EXPECT_TRUE(label->Visible());
-  }
+void ExpectLabels(const Cases<const char*, QString>& cases) {
+  for (const auto& [name, expected] : cases) EXPECT_EQ(LabelAt(name), expected) << name;
 }
 
 TEST_F(DefaultPages, PutTellingLabelsWhereTheyBelong) {
-  ExpectLabels({
-      {"frmP1.lbl(0)", 3420, 720, 12, true, "Alder Events"},
-      {"frmP1.lbl(1)", 3420, 990, 9.75F, false, "12 Alder Street"},
-      {"frmP1.lbl(2)", 3420, 1260, 9.75F, false, ""},
-      {"frmP1.lbl(5)", 3420, 2070, 9.75F, false, "(541) 555-0101"},
-      {"frmP1.lbl(9)", 7500, 1530, 9.75F, false, "Spare"},
-      {"frmP1.lbl(10)", 4500, 2880, 12, true, "Event Proposal"},
-      {"frmP1.lbl(11)", 720, 3060, 9.75F, true, "Wedding Date"},
-      {"frmP1.lbl(20)", 720, 6300, 9.75F, true, "Groom Information"},
-      {"frmP1.lbl(26)", 6300, 7560, 9.75F, false, "Email Address:"},
-      {"frmP1.lbl(30)", 720, 9885, 9.75F, true, "Reception Information"},
-      {"frmP1.lbl(34)", 6300, 10785, 9.75F, false, "Time:"},
-      {"frmP1.lbl(35)", 10080, 11655, 9.75F, true, "$"},
-      {"frmP1.lbl(42)", 10080, 14175, 9.75F, true, "$"},
-      {"frmP1.lbl(43)", 720, 15030, 9.75F, true, "Page 1 of 6"},
-      {"frmP1.lbl(45)", 4860, 15030, 9.75F, true, "Proposal for (Client's Name)"},
-      {"frmP3.lbl(0)", 3130, 540, 14, false, "Alder Events - Event Proposal - Page 3"},
-      {"frmP3.lbl(35)", 9900, 14040, 9.75F, true, "$"},
-      {"frmP5.lbl(36)", 720, 15030, 9.75F, true, "Page 5 of 6"},
-      {"frmP6.lbl(0)", 3060, 540, 14, false, "Alder Events - Event Proposal - Page 7"},
-      {"frmP6.lbl(3)", 1080, 2160, 9.75F, true, "Sales Tax"},
-      {"frmP6.lbl(5)", 3060, 1800, 9.75F, true, "$"},
-      {"frmP6.lbl(8)", 7560, 1800, 9.75F, true, "Deposit Received"},
-      {"frmP6.lbl(12)", 9720, 2160, 9.75F, true, "$"},
-      {"frmP6.lbl(47)", 720, 12060, 9.75F, false,
-       " Contract Language Line 35 - Edit this Label by right-clicking or by opening the Contract Language "
-       "Editor "
-       "under Manage."},
-      {"frmP6.lbl(48)", 720, 12960, 9.75F, false, "____________________________________________"},
-      {"frmP6.lbl(51)", 720, 14130, 9.75F, false, "Representative for Alder Events"},
-      {"frmP6.lbl(54)", 5850, 13860, 9.75F, false, "_______________"},
-      {"frmP6.lbl(59)", 8010, 13590, 9.75F, false, ""},
-      {"frmP6.lbl(60)", 8010, 13590, 9.75F, false, "Bend, OR 97701"},
-      {"frmP6.lbl(62)", 8010, 14130, 9.75F, false, "(541) 555-0101"},
-      {"frmP6.lbl(63)", 900, 15030, 9.75F, true, "Page 6 of 6"},
-      {"frmP6.lbl(64)", 5310, 15030, 9.75F, true, "Proposal for (Client's Name) - Our Copy"},
-      {"frmP6_1.lbl(64)", 5310, 15030, 9.75F, true, "Proposal for (Client's Name) - Client's Copy"},
-  });
+  ExpectLabels(
+      {{"frmP1.lbl(0)", "3420,720 12 b|Alder Events"},
+       {"frmP1.lbl(2)", "3420,1260 9.75|"},
+       {"frmP1.lbl(11)", "720,3060 9.75 b|Wedding Date"},
+       {"frmP1.lbl(26)", "6300,7560 9.75|Email Address:"},
+       {"frmP1.lbl(42)", "10080,14175 9.75 b|$"},
+       {"frmP1.lbl(45)", "4860,15030 9.75 b|Proposal for (Client's Name)"},
+       {"frmP3.lbl(0)", "3130,540 14|Alder Events - Event Proposal - Page 3"},
+       {"frmP3.lbl(35)", "9900,14040 9.75 b|$"},
+       {"frmP6.lbl(8)", "7560,1800 9.75 b|Deposit Received"},
+       {"frmP6.lbl(47)",
+        "720,12060 9.75| Contract Language Line 35 - Edit this Label by right-clicking or by opening the "
+        "Contract Language Editor under Manage."},
+       {"frmP6.lbl(51)", "720,14130 9.75|Representative for Alder Events"},
+       {"frmP6.lbl(60)", "8010,13590 9.75|Bend, OR 97701"},
+       {"frmP6_1.lbl(64)", "5310,15030 9.75 b|Proposal for (Client's Name) - Client's Copy"}});
 }
 
 TEST_F(DefaultPages, EndTheContinuationAtTheAmountsRightEdge) {
@@ -110,29 +84,18 @@ TEST_F(DefaultPages, EndTheContinuationAtTheAmountsRightEdge) {
 TEST_F(DefaultPages, MakeRoomForASecondAddressLine) {
   prefs.CompanyAddress2 = "Suite 4";
   Show();
-  ExpectLabels({{"frmP1.lbl(2)", 3420, 1260, 9.75F, false, "Suite 4"},
-                {"frmP6.lbl(59)", 8010, 13590, 9.75F, false, "Suite 4"},
-                {"frmP6_1.lbl(60)", 8010, 13860, 9.75F, false, "Bend, OR 97701"},
-                {"frmP6.lbl(62)", 8010, 14400, 9.75F, false, "(541) 555-0101"}});
+  ExpectLabels({{"frmP1.lbl(2)", "3420,1260 9.75|Suite 4"},
+                {"frmP6_1.lbl(60)", "8010,13860 9.75|Bend, OR 97701"},
+                {"frmP6.lbl(62)", "8010,14400 9.75|(541) 555-0101"}});
 }
 
 TEST_F(DefaultPages, ChangeToTheAlternativeLayout) {
   prefs.SnfSettings = true;
   Show();
-  ExpectLabels(
-      {{"frmP1.lbl(0)", 1080, 1080, 9.75F, true, ""},
-       {"frmP1.lbl(5)", 1080, 2880, 9.75F, true, ""},
-       {"frmP1.lbl(6)", 7560, 2160, 9.75F, true, ""},
-       {"frmP1.lbl(10)", 4500, 2880, 9.75F, true, ""},
-       {"frmP1.lbl(11)", 720, 3060, 9.75F, true, "Wedding Date"},
-       {"frmP6.lbl(13)", 720, 2880, 9.75F, false,
-        "All creative ideas in this proposal are the sole property of Alder Events"},
-       {"frmP6.lbl(39)", 720, 9900, 9.75F, false,
-        "Both Alder Events and the Client have read and understood the terms, conditions, and prices as "},
-       {"frmP6.lbl(42)", 720, 10710, 9.75F, false,
-        "** Please note that if this is not returned by ____________ there can not be any major changes made "
-        "to this event."},
-       {"frmP6.lbl(43)", 720, 10980, 9.75F, false, ""}});
+  ExpectLabels({{"frmP1.lbl(0)", "1080,1080 9.75 b|"},
+                {"frmP6.lbl(13)",
+                 "720,2880 9.75|All creative ideas in this proposal are the sole property of Alder Events"},
+                {"frmP6.lbl(43)", "720,10980 9.75|"}});
   EXPECT_EQ(DefaultContractLines().size(), 35);
 }
 

@@ -1,14 +1,14 @@
 #include "editing/label_props.h"
 
-#include "editing/colours.h"
 #include "pages/labels.h"
 #include "proposal_fixture.h"
 
 using namespace quillane;
+using namespace quillane::test;
 
 namespace {
 
-constexpr Color Red = 0x0000FF, Blue = 0xFF0000;
+constexpr Color Red = 0x0000FF;
 
 class LabelProps : public test::ProposalTest {
  protected:
@@ -103,14 +103,21 @@ TEST_F(LabelProps, StoreNothingThatWasOnlyLookedAt) {
 }
 
 TEST_F(LabelProps, MakeATitleOfAnyPagesTitle) {
-  Begin(5, 64);
-  EXPECT_EQ(WordsOfCaption(), CaptionWords::Title);
-  SetLabelCaption("Carter and Okafor - Our Copy");
-  UnloadLabelProps();
-  EXPECT_EQ(proposal.Title, "Carter and Okafor");
-  EXPECT_EQ(At("frmP1.lbl(45)").Caption(), "Carter and Okafor");
-  EXPECT_EQ(At("frmP6.lbl(64)").Caption(), "Carter and Okafor - Our Copy");
-  EXPECT_EQ(At("frmP6_1.lbl(64)").Caption(), "Carter and Okafor - Client's Copy");
+  for (const auto& [window, label, caption] :
+       Cases<int, int, QString>{{0, 45, "Carter and Okafor"}, {5, 64, "The Carter Wedding - Our Copy"}}) {
+    Begin(window, label);
+    SetLabelCaption(caption);
+    SetLabelFontSize(20);
+    UnloadLabelProps();
+    const QString title = QString(caption).remove(" - Our Copy");
+    EXPECT_EQ(At("frmP1.lbl(45)").Caption(), title);
+    EXPECT_EQ(At("frmP6_1.lbl(64)").Caption(), title + " - Client's Copy");
+    const Control& changed = page(window).lbl[label];
+    EXPECT_EQ(changed.Caption(), caption);
+    EXPECT_NEAR(changed.Left() + changed.Width() / 2, sheet::Centre, 1);
+    EXPECT_EQ(Stored(window, label).Caption, caption);
+    EXPECT_TRUE(proposal.TitleByHand);
+  }
 }
 
 TEST_F(LabelProps, KnowTheCaptionsThatTheProgramWrites) {

@@ -36,45 +36,25 @@ class PreferencesFile : public InProgramFolder {
   void MakeShare(const QString& inside = {}) const { QDir(prefs.ProgramFolder).mkpath("drives/F/" + inside); }
 };
 
-/// The settings as read, and what the session began with.
+/// What is read, and what the session began with.
+QString Values() {
+  const auto& [name, size, color, italic] = prefs.DefaultFont;
+  return Joined("", name, size, color, italic, prefs.LogoLeft, prefs.LogoTop, prefs.LogoVisible,
+                prefs.FUTLeft, prefs.FUTTop, prefs.FUTWidth, prefs.FUTHeight, prefs.AutoStartPosition);
+}
 QString Read() {
-  const auto font = [](const UserFont& f) {
-    return f.FontName + QString(" %1 %2 %3").arg(f.FontSize).arg(f.FontColor).arg(int(f.FontItalic));
-  };
-  return QStringList{prefs.CompanyName,    prefs.CompanyAddress1,  prefs.CompanyAddress2,
-                     prefs.CompanyCity,    prefs.CompanyPhone,     prefs.CompanyFax,
-                     prefs.CompanyWebsite, prefs.CompanyEmail,     prefs.PageTitle,
-                     prefs.LogoFile,       prefs.CurrencySymbol,   prefs.FrequentTermsFile,
-                     prefs.PageTitles,     font(prefs.DefaultFont)}
-             .join(u'|') +
-         QString("|logo %1 %2|terms %3 %4 %5 %6|")
-             .arg(prefs.LogoLeft)
-             .arg(prefs.LogoTop)
-             .arg(prefs.FUTLeft)
-             .arg(prefs.FUTTop)
-             .arg(prefs.FUTWidth)
-             .arg(prefs.FUTHeight) +
-         QString("start %1|on %2%3%4%5%6 off %7%8%9")
-             .arg(prefs.AutoStartPosition)
-             .arg(int(prefs.AutoCompleteWord))
-             .arg(int(prefs.MinimizeFUT))
-             .arg(int(prefs.ShowCalc))
-             .arg(int(prefs.LoadFUT))
-             .arg(int(prefs.LogoVisible))
-             .arg(int(prefs.ShowFUT))
-             .arg(int(prefs.LoadDefaultFormat))
-             .arg(int(prefs.FirstInstance));
+  const Preferences& p = prefs;
+  return Joined(p.CompanyName, p.CompanyAddress1, p.CompanyAddress2, p.CompanyCity, p.CompanyPhone,
+                p.CompanyFax, p.CompanyWebsite, p.CompanyEmail, p.PageTitle, p.LogoFile, p.CurrencySymbol,
+                p.FrequentTermsFile, p.PageTitles, "on",
+                p.AutoCompleteWord && p.MinimizeFUT && p.ShowCalc && p.LoadFUT, "off",
+                p.ShowFUT || p.LoadDefaultFormat || p.FirstInstance) +
+         Values();
 }
 QString Session() {
-  return QStringList{proposal.SubTitle, proposal.UDP.FontName, proposal.CurrentFolder, format.FormatFolder,
-                     terms.FileName}
-             .join(u'|') +
-         QString("|%1 %2 %3 %4 %5")
-             .arg(proposal.LogoLeft)
-             .arg(format.LogoTop)
-             .arg(int(terms.FileLoaded))
-             .arg(int(terms.AutoComplete))
-             .arg(terms.AutoStart);
+  return Joined(proposal.SubTitle, proposal.UDP.FontName, proposal.CurrentFolder, format.FormatFolder,
+                terms.FileName, proposal.LogoLeft, format.LogoTop, terms.FileLoaded, terms.AutoComplete,
+                terms.AutoStart);
 }
 
 TEST_F(PreferencesFile, EveryLineReachesItsSettingAndTheSession) {
@@ -84,15 +64,15 @@ TEST_F(PreferencesFile, EveryLineReachesItsSettingAndTheSession) {
   EXPECT_TRUE(prefs.Read && !prefs.Reading && prefs.PrefLines.size() == 32);
   EXPECT_EQ(Read(),
             "Alder Events|12 Mill Lane||Dover, DE 19901|555-0100|555-0101|www.example.com|a@example.com|"
-            "Weddings|events.jpg|\u20AC|Event Terms.fut|Our Proposal - |Times New Roman 9.75 255 1|"
-            "logo 720 540|terms 100 200.5 3000 4000|start 3|on 11111 off 000");
+            "Weddings|events.jpg|\u20AC|Event Terms.fut|Our Proposal - |on|true|off|false|"
+            "Times New Roman|9.75|255|true|720|540|true|100|200.5|3000|4000|3");
   EXPECT_EQ(prefs.LogoPath, Path("events.jpg"));
   EXPECT_EQ(printing.CurrentPrinter, "Office Laser");
   EXPECT_EQ(prefs.ProposalFolder + prefs.BackupFolder,
             Path("Wedding Proposals/") + Path("Wedding Proposals/Backup/"));
   EXPECT_TRUE(FolderExists(prefs.ProposalFolder, "Backup"));
   EXPECT_EQ(Session(), "Our Proposal - |Times New Roman|" + prefs.ProposalFolder + u'|' +
-                           prefs.ProposalFolder + "|Event Terms.fut|720 540 1 1 3");
+                           prefs.ProposalFolder + "|Event Terms.fut|720|540|true|true|3");
   EXPECT_EQ(Get("UserPreferences.txt"), Installed);
 
   // A later reading leaves what the session has changed.
@@ -123,7 +103,7 @@ TEST_F(PreferencesFile, WhatIsNoValueKeepsWhatItWasOrIsNone) {
   Replace("Logo Top:540", "Logo Top:90");
   GetUserPreferences();
   StorePreference(Setting::FUTPosition, "Height=10:Left=-5");
-  EXPECT_TRUE(Read().contains("|logo 720 90|terms -5 200.5 3000 10|")) << Read().toStdString();
+  EXPECT_EQ(Values(), "|Times New Roman|9.75|255|true|720|90|true|-5|200.5|3000|10|3");
   StorePreference(Setting::FUTPosition, {});
   EXPECT_EQ(prefs.FUTHeight, 10);
   for (const QString whole : {"F:\\logos\\x.jpg", "/logos/x.jpg"}) {
@@ -143,8 +123,7 @@ TEST_F(PreferencesFile, WhatIsNoValueKeepsWhatItWasOrIsNone) {
     Replace(line, wrong);
   GetUserPreferences();
   EXPECT_TRUE(desk.said.isEmpty());
-  EXPECT_TRUE(Read().endsWith("Arial 10 0 1|logo 720 540|terms 0 0 0 0|start 0|on 11110 off 000"))
-      << Read().toStdString();
+  EXPECT_EQ(Values(), "|Arial|10|0|true|720|540|false|0|0|0|0|0");
 }
 
 TEST_F(PreferencesFile, SwappedLinesGiveWrongValuesAndNoMessage) {
