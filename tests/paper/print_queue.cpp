@@ -32,95 +32,18 @@ bool Await(Condition&& condition) {
   return true;
 }
 
-// A colour printer for letter paper that takes PDF files as they are.
-constexpr const char* Description = R"PPD(*PPD-Adobe: "4.3"
-*FormatVersion: "4.3"
-*FileVersion: "1.0"
-*LanguageVersion: English
-*LanguageEncoding: ISOLatin1
-*PCFileName: "QUEUE.PPD"
-*Manufacturer: "Test"
-*Product: "(Test)"
-*ModelName: "Test Queue"
-*ShortNickName: "Test Queue"
-*NickName: "Test Queue"
-*PSVersion: "(3010.000) 0"
-*LanguageLevel: "3"
-*ColorDevice: True
-*DefaultColorSpace: RGB
-*FileSystem: False
-*cupsFilter: "application/pdf 0 -"
-*OpenUI *PageSize: PickOne
-*OrderDependency: 10 AnySetup *PageSize
-*DefaultPageSize: Letter
-*PageSize Letter/US Letter: "<</PageSize[612 792]/ImagingBBox null>>setpagedevice"
-*CloseUI: *PageSize
-*OpenUI *PageRegion: PickOne
-*OrderDependency: 10 AnySetup *PageRegion
-*DefaultPageRegion: Letter
-*PageRegion Letter/US Letter: "<</PageSize[612 792]/ImagingBBox null>>setpagedevice"
-*CloseUI: *PageRegion
-*DefaultImageableArea: Letter
-*ImageableArea Letter/US Letter: "18 18 594 774"
-*DefaultPaperDimension: Letter
-*PaperDimension Letter/US Letter: "612 792"
-*DefaultFont: Courier
-)PPD";
-
-// The last step of a job: it goes into a folder instead of a device.
-constexpr const char* Backend = R"(#!/bin/sh
-[ $# -eq 0 ] && { echo 'direct keep "Unknown" "Keeps jobs"'; exit 0; }
-out="${DEVICE_URI#keep:}/$(printf %05d "$1").pdf"
-if [ -n "$6" ]; then cat "$6"; else cat; fi > "$out.part" && mv "$out.part" "$out"
-)";
-
-// What the server starts the last step through.
-constexpr const char* Starter = R"(#!/bin/sh
-while getopts g:n:u: option; do :; done
-shift $OPTIND
-command="$1"
-shift 2
-exec "$command" "$@"
-)";
-
-constexpr const char* Rules = R"(LogLevel debug
-Listen %1/socket
-Browsing Off
-WebInterface No
-DefaultAuthType None
-<Location />
-  Order allow,deny
-  Allow all
-</Location>
-<Location /admin>
-  Order allow,deny
-  Allow all
-</Location>
-<Policy default>
-  <Limit All>
-    Order deny,allow
-  </Limit>
-</Policy>
-)";
-
-constexpr const char* Places = R"(%2
-ServerRoot %1/root
-ServerBin %1/bin
-DataDir %1/data
-DocumentRoot %1/data
-CacheDir %1/cache
-StateDir %1/state
-RequestRoot %1/spool
-TempDir %1/spool/tmp
-AccessLog %1/log/access
-ErrorLog %1/log/error
-PageLog %1/log/page
-SyncOnClose No
-)";
+/// What stands in tests/data/print-queue: the description of a colour printer for letter paper that takes PDF
+/// files as they are, the last step of a job, which goes into a folder, what the server starts it through,
+/// and the server's settings.
+QByteArray Data(const QString& name) {
+  QFile file(QStringLiteral(QUILLANE_TEST_DATA "/print-queue/") + name);
+  if (!file.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qPrintable(file.fileName()));
+  return file.readAll();
+}
 
 /// The server works for nobody in particular when the test has all rights, and for its user otherwise.
-QString Users() {
-  return geteuid() == 0 ? QStringLiteral("User lp\nGroup lp\nSystemGroup root") : QString();
+QByteArray Users() {
+  return geteuid() == 0 ? "User lp\nGroup lp\nSystemGroup root" : QByteArray();
 }
 
 }  // namespace
@@ -167,16 +90,18 @@ void PrintServer::WriteFolder() const {
     folder.mkpath(QLatin1String(name));
   Write(QStringLiteral("data/mime/mime.types"), "application/pdf pdf string(0,%PDF)\n");
   Write(QStringLiteral("data/mime/mime.convs"), {});
-  Write(QStringLiteral("bin/backend/keep"), Backend);
-  Write(QStringLiteral("bin/daemon/cups-exec"), Starter);
-  Write(QStringLiteral("queue.ppd"), Description);
-  Write(QStringLiteral("root/ppd/Office.ppd"), Description);
-  Write(QStringLiteral("root/ppd/Closed.ppd"), Description);
+  for (const auto& [name, data] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"bin/backend/keep", "keep"},
+                                                                  {"bin/daemon/cups-exec", "cups-exec"},
+                                                                  {"queue.ppd", "queue.ppd"},
+                                                                  {"root/ppd/Office.ppd", "queue.ppd"},
+                                                                  {"root/ppd/Closed.ppd", "queue.ppd"}})
+    Write(QLatin1String(name), Data(QLatin1String(data)));
   Write(QStringLiteral("root/printers.conf"),
         QueueEntry("Office", "DefaultPrinter", "Yes") + QueueEntry("Closed", "Printer", "No"));
-  Write(QStringLiteral("cupsd.conf"), QString::fromLatin1(Rules).arg(folder_.path()).toLocal8Bit());
-  Write(QStringLiteral("cups-files.conf"),
-        QString::fromLatin1(Places).arg(folder_.path(), Users()).toLocal8Bit());
+  for (const char* name : {"cupsd.conf", "cups-files.conf"})
+    Write(QLatin1String(name),
+          Data(QLatin1String(name)).replace("%1", folder_.path().toLocal8Bit()).replace("%2", Users()));
   if (geteuid() != 0) return;
   // Who has all rights hands the folder over to the server's own user.
   QProcess::execute(QStringLiteral("chmod"), {QStringLiteral("755"), folder_.path()});

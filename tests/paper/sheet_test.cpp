@@ -65,7 +65,7 @@ std::string Text(const Control& control) {
   return control.Text().toStdString();
 }
 
-TEST_F(Sheet, MovesNoPixelOfATextWhenItsAreaGetsLive) {
+TEST_F(Sheet, MovesNoPixelOfATextWhenItsAreaGetsTheFocus) {
   Control& area = page(1).txt[4];
   area.SetText(QStringLiteral("Arch of smilax & white wisteria, WAVY AV To."));
   area.SetSelStart(static_cast<int>(area.Text().size()));
@@ -84,7 +84,7 @@ TEST_F(Sheet, MovesNoPixelOfATextWhenItsAreaGetsLive) {
   }
 }
 
-TEST_F(Sheet, TurnsWhatTheFilesCannotHoldIntoItsKinAtOnce) {
+TEST_F(Sheet, TurnsWhatTheFilesCannotHoldIntoItsEquivalentAtOnce) {
   Commit("Łódź “€5” 🌹");
   EXPECT_EQ(Text(page(1).txt[0]), FoldToCodePage(QString::fromUtf8("Łódź “€5” 🌹")).toStdString());
   EXPECT_EQ(Editor().text(), page(1).txt[0].Text());
@@ -186,7 +186,7 @@ TEST_F(Sheet, LeavesTheMenusKeysAlone) {
   EXPECT_EQ(Text(page(1).txt[0]), "lilies");
 }
 
-TEST_F(Sheet, RefusesHandsWhileRowsAreSelectedAndOnTheCopy) {
+TEST_F(Sheet, RefusesKeysWhileRowsAreSelectedAndOnTheCopy) {
   Type("kept");
   const auto assail = [&](const Control& area) {
     const std::string before = Text(area);
@@ -320,7 +320,7 @@ TEST_F(Sheet, SlidesUnderABandThatIsPulledOutOfIt) {
   ClearSelection();
 }
 
-TEST_F(Sheet, HandsOverALabelUnderAnAreaWithCtrlAndSlidesUnderItsDrag) {
+TEST_F(Sheet, ReachesALabelUnderAnAreaWithCtrlAndScrollsUnderItsDrag) {
   view.resize(900, 500);
   view.scrollTo = [this](int value) { view.SetScroll(std::clamp(value, 0, 9000)); };
   LabelInput input(view);

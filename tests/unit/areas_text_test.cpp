@@ -162,7 +162,14 @@ TEST_F(Typing, AnAreaFixedByTheFormatTakesTheFocusAndNothingElse) {
   EXPECT_TRUE(AcceptsTyping(At("frmP2.txt(1)")));
 }
 
-TEST_F(Typing, AHugeClipboardIsRefusedWithAWord) {
+TEST_F(Typing, TheCaretStaysBehindACharacterThatBecomesThree) {
+  Start("frmP2.txt(0)", QString());
+  At("frmP2.txt(0)").Typed(QString::fromUtf8("⅓ rose"), 1);
+  EXPECT_EQ(At("frmP2.txt(0)").Text(), "1/3 rose");
+  EXPECT_EQ(At("frmP2.txt(0)").SelStart(), 3);
+}
+
+TEST_F(Typing, AClipboardThatIsTooLargeIsRefusedAndTold) {
   Start("frmP2.txt(0)", QStringLiteral("Roses"));
   EXPECT_EQ(PasteInto(At("frmP2.txt(0)"), QString(10'000'000, QLatin1Char('x'))), QString());
   EXPECT_EQ(typist.desk.said.size(), 1);

@@ -25,7 +25,7 @@ TEST(Walk, LeadsFromAreaToArea) {
       {keys::Tab, false, "P1.txt(21) P1.txtAmt(21) P1.txt(29) P1.txt(22)"},
       {keys::Enter, false, "P1.txt(27) P1.txt(35) P2.txt(0) P2.txt(35)"},
       {keys::Enter, false, "P2.txt(36) P2.txtQty(2) P2.txt(2) P2.txtAmt(2) P2.txt(37)"},
-      {keys::Enter, false, "P2.txt(69) P3.txt(0)"},
+      {keys::Enter, false, "P2.txt(68) P2.txt(34) P2.txt(69) P3.txt(0)"},
       {keys::Tab, false, "P5.txt(69) P6.txt(0)"},
       {keys::Enter, false, "P6.txt(1) P6.txt(1)"},
       {keys::Tab, false, "P6.txt(1) P6.txt(2)"},

@@ -21,7 +21,7 @@ TEST(CodePage, EveryByteComesBack) {
   for (const int open : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) EXPECT_EQ(text[open], QChar(open));
 }
 
-TEST(CodePage, WhatItLacksBecomesItsNearestKin) {
+TEST(CodePage, WhatItLacksBecomesItsClosestEquivalent) {
   const Cases<const char*, const char*> cases = {
       {"Sofía Marín-Núñez", "Sofía Marín-Núñez"},
       {"€ “quotes” ‘and’ – — … ™", "€ “quotes” ‘and’ – — … ™"},

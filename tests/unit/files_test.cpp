@@ -50,7 +50,7 @@ int ErrorOf(Body body) {
   return 0;
 }
 
-TEST_F(Files, AFailingStepLeavesTheOldFileAndNoLitter) {
+TEST_F(Files, AFailingStepLeavesTheOldFileAndNoOther) {
   const Cases<const char*, int, int> cases = {
       {"open", EACCES, errors::PermissionDenied}, {"open", ENOENT, errors::PathNotFound},
       {"write", ENOSPC, errors::DiskFull},        {"flush", EDQUOT, errors::DiskFull},

@@ -14,7 +14,8 @@ TEST_F(NewProposal, KeepsNothingOfTheLastOne) {
   Put("Emily Carter.wxt", Sample("Emily Carter.wxt"));
   ASSERT_TRUE(Open("Emily Carter.wwf"));
   At("frmP2.txt(0)").SetBackColor(colors::Red);
-  editing.AreasSelected = editing.SelectionMemoryFull = editing.DateWarningGiven = true;
+  editing.AreasSelected = editing.SelectionMemoryFull = editing.DateWarningGiven = editing.UndoAvailable =
+      true;
   editing.KeysSinceBackup = 13;
 
   ASSERT_TRUE(StartNewFile());
@@ -48,7 +49,7 @@ TEST_F(NewProposal, KeepsNothingOfTheLastOne) {
   EXPECT_FALSE(TotalsAreStale());
   EXPECT_FALSE(ProposalHasChanged());
   EXPECT_FALSE(editing.AreasSelected || editing.SelectionMemoryFull || editing.DateWarningGiven ||
-               editing.RebuildingPages || editing.NewFile);
+               editing.UndoAvailable || editing.RebuildingPages || editing.NewFile);
   EXPECT_EQ(editing.KeysSinceBackup, 0);
 }
 

@@ -100,7 +100,7 @@ TEST_F(Saving, UnderANameThatHasDepositsReportsTheirCopy) {
   EXPECT_EQ(Get("Old.dep"), "deposits of somebody else");
 }
 
-TEST_F(Saving, BacksUpWhatStandsWithoutAWord) {
+TEST_F(Saving, BacksUpWhatIsOnThePagesAndTellsNothing) {
   TypeProposal("Ann Lee");
   SetFocus(At("frmP1.txt(2)"));
   BackupThisFile();  // half a name must not become a file

@@ -122,7 +122,7 @@ TEST_F(Selection, AsksBeforeItOverwrites) {
   EXPECT_EQ(TextAt(2, 3), "New");
 }
 
-TEST_F(Selection, ARectangleAroundNothingLeavesNoRowCommandAlive) {
+TEST_F(Selection, ARectangleAroundNothingLeavesNoRowCommandEnabled) {
   Fill(1, 0, "Flowers", "10.00");
   Select(1, 0, 0);
   EXPECT_TRUE(frame()["mnuEditTextDelete"].Enabled());

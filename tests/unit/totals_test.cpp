@@ -160,6 +160,7 @@ TEST_F(Totals, KeepWhatIsExemptOutOfTheTaxableSum) {
   MakeTaxExempt();
   MarkClicked(At("frmP3.imgNoTax(36)"));
   EXPECT_FALSE(At("frmP3.imgNoTax(36)").Visible());
+  EXPECT_EQ(editing.Focus, &frame()["cmdReCalc"]) << "the sums now wait for it";
   editing.CurrentArea = 3;
   MakeTaxExempt();
   EXPECT_FALSE(At("frmP3.imgNoTax(3)").Visible()) << "a description has no tax";
@@ -238,6 +239,7 @@ TEST_F(Totals, TakeFiguresTypedOnPageSix) {
   EXPECT_EQ(Figures()[4], "25.50");
   EXPECT_FALSE(Stale());
   At("frmP6.txt(4)").SetText("");
+  EXPECT_EQ(At("frmP6_1.txt(4)").Text(), "");
   EXPECT_EQ(proposal.DepositReceived, 0);
   EXPECT_EQ(Figures()[5], "82.00") << "an emptied deposit waits for its leaving";
   RewriteDeposit();
