@@ -40,6 +40,9 @@ TEST(GridPaint, IsSharpAtEveryZoomAndGoneInPreview) {
     EXPECT_GT(colours.value(qRgb(0, 255, 0)), 0);
     EXPECT_EQ(colours.size(), 3) << "white, green and black";
   }
+  view.ShowPage(2);
+  EXPECT_EQ(MarginColours(view).keys(), QList<QRgb>{qRgb(255, 255, 255)}) << "it was drawn on another page";
+  view.ShowPage(1);
   view.SetDrawMode(DrawMode::Printing);
   EXPECT_EQ(MarginColours(view).keys(), QList<QRgb>{qRgb(255, 255, 255)});
 }

@@ -118,6 +118,10 @@ TEST_F(Sheet, CutsCopiesAndTakesBackWithinAnArea) {
   EXPECT_EQ(Text(page(1).txt[0]), "");
   Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Text(page(1).txt[0]), "lilies");
+  Key(Qt::Key_A, Qt::ControlModifier);
+  QFocusEvent toAMenu(QEvent::FocusOut, Qt::OtherFocusReason);
+  QApplication::sendEvent(&Editor(), &toAMenu);
+  EXPECT_EQ(Editor().selectedText(), QStringLiteral("lilies")) << "its commands work on what is selected";
   SetFocus(page(1).txt[1]);
   Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Text(page(1).txt[1]), "") << "into no other area";
@@ -317,6 +321,18 @@ TEST_F(Sheet, SlidesUnderABandThatIsPulledOutOfIt) {
   EXPECT_EQ(page(1).txt[0].BackColor(), colors::Blue);
   EXPECT_EQ(page(1).txt[20].BackColor(), colors::Blue);
   EXPECT_FALSE(page(1).shpSelect[0].Visible());
+  Hand(QEvent::MouseButtonPress, from);
+  Hand(QEvent::MouseMove, from + QPoint(2, 0));
+  Hand(QEvent::MouseButtonRelease, from + QPoint(2, 0));
+  EXPECT_EQ(page(1).txt[20].BackColor(), colors::Blue) << "a click on the paper is no band";
+
+  const double scrolled = view.Scroll();
+  Hand(QEvent::MouseButtonPress, {from.x(), 200});
+  Hand(QEvent::MouseMove, {850, -40});
+  frame().VScroll1.Value = static_cast<int>(scrolled);
+  band.Pull();
+  EXPECT_LT(view.Scroll(), scrolled) << "and up again";
+  Hand(QEvent::MouseButtonRelease, {850, -40});
   ClearSelection();
 }
 
@@ -359,6 +375,8 @@ TEST_F(Sheet, NamesItsAreasForAScreenReader) {
   EXPECT_EQ(amount->text(QAccessible::Value), QStringLiteral("12.00"));
   EXPECT_EQ(amount->text(QAccessible::Description), QStringLiteral("exempt from sales tax"));
   EXPECT_EQ(sheet->indexOfChild(amount), 39);
+  page(1).txt[39].SetBackColor(colors::Blue);
+  EXPECT_TRUE(amount->state().selected);
   amount->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
   EXPECT_EQ(Focus(), "frmP2.txt(39)");
   EXPECT_EQ(sheet->focusChild()->text(QAccessible::Name), QStringLiteral("Page 2, row 5, amount"));

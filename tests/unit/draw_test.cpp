@@ -20,33 +20,23 @@ Document DrawnOf(const Control& control, DrawMode mode, const Page& owner) {
 }
 
 TEST(Draw, StandsAmountsAtTheRightEdgeOnPaperAndLeftOnTheScreen) {
-  struct Case {
-    int window;
-    const char* array;
-    int index;
-    bool right;
-  };
-  constexpr Case cases[] = {{0, "txt", 0, false},    {0, "txt", 1, true},  {0, "txt", 27, false},
-                            {0, "txt", 28, true},    {0, "txt", 35, true}, {1, "txt", 34, false},
-                            {1, "txt", 35, true},    {4, "txt", 69, true}, {1, "txtAmt", 3, false},
-                            {1, "txtQty", 3, false}, {5, "txt", 0, true},  {6, "txt", 5, true}};
   ResetState();
-  for (const Case& given : cases) {
-    Page& owner = page(given.window);
-    auto& array = given.array == QLatin1String("txt")      ? owner.txt
-                  : given.array == QLatin1String("txtQty") ? owner.txtQty
-                                                           : owner.txtAmt;
-    Control& box = array[given.index];
+  const Cases<const char*, bool> cases = {
+      {"frmP1.txt(0)", false},    {"frmP1.txt(1)", true},  {"frmP1.txt(27)", false},
+      {"frmP1.txt(28)", true},    {"frmP1.txt(35)", true}, {"frmP2.txt(34)", false},
+      {"frmP2.txt(35)", true},    {"frmP5.txt(69)", true}, {"frmP2.txtAmt(3)", false},
+      {"frmP2.txtQty(3)", false}, {"frmP6.txt(0)", true},  {"frmP6_1.txt(5)", true}};
+  for (const auto& [name, right] : cases) {
+    Control& box = *FindPageControl(name);
     box.SetShown(true);
     box.SetText(QStringLiteral("12.00"));
-    const Document paper = DrawnOf(box, DrawMode::Printing, owner);
-    const Document screen = DrawnOf(box, DrawMode::Editing, owner);
+    const Document paper = DrawnOf(box, DrawMode::Printing, *PageOf(box));
+    const Document screen = DrawnOf(box, DrawMode::Editing, *PageOf(box));
     ASSERT_EQ(paper.drawn.size(), 1U);
     EXPECT_EQ(paper.drawn[0].top, box.Top());
-    if (given.right)
-      EXPECT_FLOAT_EQ(paper.drawn[0].right, box.Left() + box.Width()) << box.FullName().toStdString();
-    else
-      EXPECT_EQ(paper.drawn[0].left, box.Left()) << box.FullName().toStdString();
+    EXPECT_FLOAT_EQ(right ? paper.drawn[0].right : paper.drawn[0].left,
+                    right ? box.Left() + box.Width() : box.Left())
+        << name;
     ASSERT_TRUE(screen.Find(QStringLiteral("12.00")));
     EXPECT_EQ(screen.Find(QStringLiteral("12.00"))->left, box.Left());
     EXPECT_EQ(screen.Find(QStringLiteral("fill"))->color, box.BackColor());

@@ -52,6 +52,7 @@ TEST_F(LogoTest, IsKeptAsDefaultWithItsPlace) {
   ChooseLogo("ours.jpg");
   Pic().SetLeft(2880.5F);
   Pic().SetTop(0);
+  ChooseLogo("ours.jpg");  // takes the place of the one that shows
   format.FormatIsOpen = true;
   format.LogoPath.clear();
   format.LogoChanged = false;
