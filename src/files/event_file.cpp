@@ -2,6 +2,7 @@
 #include "files/event_file.h"
 
 #include <QFileInfo>
+#include <vector>
 
 #include "editing/navigation.h"
 #include "editing/totals_commands.h"
@@ -48,9 +49,13 @@ bool WriteFiles(const QString& fileName, Properties when) {
   UpdatePageNumbers();
   UpdateEventNameLabels();
   const bool propertiesToo = PropertiesAreDue(when, baseName);
-  ReplaceFile(proposal.CurrentFolder + fileName, EventFileBytes());
+  std::vector<Replacement> written;
+  written.emplace_back(proposal.CurrentFolder + fileName, EventFileBytes());
   proposal.PropertyLines = PropertyLinesNow();
-  return !propertiesToo || SavePropertyFile(baseName);
+  const bool whole = !propertiesToo || SavePropertyFile(baseName, written);
+  Replacement::Keep(written);
+  if (whole && propertiesToo) MarkPropertiesSaved();
+  return whole;
 }
 
 void TakeName(const QString& baseName) {

@@ -136,13 +136,17 @@ QString PropertyFolder() {
                                                                        : proposal.CurrentFolder;
 }
 
-bool SavePropertyFile(const QString& baseName) {
+bool SavePropertyFile(const QString& baseName, std::vector<Replacement>& written) {
   return Guarded("SavePropertyFile", [&] {
-    ReplaceFile(PropertyFolder() + baseName + QStringLiteral(".wpf"), BytesOfLines(proposal.PropertyLines));
-    proposal.SavedPropertyLines = proposal.PropertyLines;
-    for (auto& labels : proposal.LabelBackup)
-      for (LabelRecord& label : labels) label.Changed = false;
+    written.emplace_back(PropertyFolder() + baseName + QStringLiteral(".wpf"),
+                         BytesOfLines(proposal.PropertyLines));
   });
+}
+
+void MarkPropertiesSaved() {
+  proposal.SavedPropertyLines = proposal.PropertyLines;
+  for (auto& labels : proposal.LabelBackup)
+    for (LabelRecord& label : labels) label.Changed = false;
 }
 
 void ReadFileProperties() {

@@ -2,8 +2,10 @@
 #pragma once
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 #include "editing/user_font.h"
+#include "platform/files.h"
 
 namespace quillane {
 
@@ -11,9 +13,11 @@ namespace quillane {
 void AssignPropChanges();
 /// The lines that a save would write, read from the pages as they stand, without touching a mark.
 QStringList PropertyLinesNow();
-/// Writes proposal.PropertyLines to `baseName` + ".wpf".  False, after the report, when it could not be
-/// written.
-bool SavePropertyFile(const QString& baseName);
+/// Replaces `baseName` + ".wpf" by proposal.PropertyLines and adds it to what `written` holds, for the caller
+/// to keep.  False, after the report, when it could not be written.
+bool SavePropertyFile(const QString& baseName, std::vector<Replacement>& written);
+/// What is true of the lines and labels once that file is kept.
+void MarkPropertiesSaved();
 /// Where property files are written and read: the folder of the open file, but the proposal folder for a
 /// proposal that came from the backup folder, which holds field files only.
 QString PropertyFolder();

@@ -7,12 +7,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "platform/runtime_error.h"
@@ -220,18 +222,32 @@ bool CannotBeDone(int error) {
   return error == EINVAL || error == ENOTSUP || error == ENOSYS;
 }
 
-void WriteBeside(const Temporary& temporary, const QString& path, const QByteArray& bytes) {
-  // A new file has the old one's permissions, but for a read-only mark, which a replacement clears.
-  const auto old = StatOf(path);
+void WriteBeside(const Temporary& temporary, const QString& path, const QByteArray& bytes,
+                 const std::optional<struct stat>& old) {
   File file;
   const bool opened = Step("open", path, [&] {
     file = OpenDescriptor(temporary.Path(), O_WRONLY | O_CREAT | O_EXCL, 0666, "wb");
     return file != nullptr;
   });
   if (!opened) RaiseWriteError(errno, path);
-  // Some shared drives have no permissions to set, and the file is as good without.
+  // A new file has the old one's permissions, but for a read-only mark, which a replacement clears.  Some
+  // shared drives have no permissions to set, and the file is as good without.
   if (old && ::fchmod(::fileno(file.get()), (old->st_mode & 07777) | S_IWUSR) != 0) errno = 0;
   if (!WriteThrough(std::move(file), path, bytes)) RaiseWriteError(errno, path);
+}
+
+/// Moves a new file to `path` and gives the name under which the old one is kept: the two change places where
+/// the file system does that in one step.  Elsewhere a second name keeps the old file, and where there are no
+/// second names either the rename alone must do, and nothing is given.
+QString ChangePlaces(const QString& fresh, const QString& path) {
+  const QByteArray from = QFile::encodeName(fresh), name = QFile::encodeName(path);
+  if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, name.constData(), RENAME_EXCHANGE) == 0) return fresh;
+  Temporary old(HiddenNameBeside(path));
+  const bool kept = ::link(name.constData(), old.Name().constData()) == 0;
+  if (::rename(from.constData(), name.constData()) != 0) RaiseWriteError(errno, path);
+  const QString oldFile = kept ? old.Path() : QString();
+  old.Release();
+  return oldFile;
 }
 
 }  // namespace
@@ -272,6 +288,12 @@ QDir ListableFolder(const QString& folder) {
   if (!info.isDir() || !info.isReadable()) Raise(errors::PathNotFound, folder);
   return QDir(info.filePath());
 }
+
+/// The toolkit's own patterns are regular expressions, whose library a start has no other use for.
+bool Matches(const QString& name, const QString& pattern) {
+  return pattern.startsWith(u'*') ? name.endsWith(QStringView(pattern).mid(1), Qt::CaseInsensitive)
+                                  : name.compare(pattern, Qt::CaseInsensitive) == 0;
+}
 }  // namespace
 
 bool FolderExists(const QString& parent, const QString& name) {
@@ -280,8 +302,13 @@ bool FolderExists(const QString& parent, const QString& name) {
 }
 
 QStringList ListFiles(const QString& folder, const QString& patterns) {
-  return ListableFolder(folder).entryList(patterns.split(u';', Qt::SkipEmptyParts),
-                                          QDir::Files | QDir::Hidden, QDir::Name | QDir::IgnoreCase);
+  QStringList names =
+      ListableFolder(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name | QDir::IgnoreCase);
+  const QStringList wanted = patterns.split(u';', Qt::SkipEmptyParts);
+  names.removeIf([&](const QString& name) {
+    return std::ranges::none_of(wanted, [&](const QString& pattern) { return Matches(name, pattern); });
+  });
+  return names;
 }
 
 QStringList ListFolders(const QString& folder) {
@@ -313,31 +340,63 @@ QList<QByteArray> ReadFileLines(const QString& path) {
   return lines;
 }
 
-void ReplaceFile(const QString& stored, const QByteArray& bytes) {
+Replacement::Replacement(const QString& stored, const QByteArray& bytes) {
   const QString path = WriteTarget(stored);
-  const QByteArray name = QFile::encodeName(path);
   if (QFileInfo(path).isDir()) Raise(errors::PathFileAccess, path);
   RequireSameFolder(path);
+  const auto old = StatOf(path);
+  hadOld_ = old.has_value();
   Temporary fresh(HiddenNameBeside(path));
-  WriteBeside(fresh, path, bytes);
-
-  // A second name keeps the old file until the folder is on disk too.  Not every file system has second
-  // names; there the rename alone must do.
-  Temporary old(HiddenNameBeside(path));
-  const bool hadOld = QFileInfo::exists(path);
-  const bool keptOld = hadOld && ::link(name.constData(), old.Name().constData()) == 0;
-  if (!Step("rename", path, [&] { return ::rename(fresh.Name().constData(), name.constData()) == 0; }))
-    RaiseWriteError(errno, path);
+  WriteBeside(fresh, path, bytes, old);
+  const bool placed = Step("rename", path, [&] {
+    if (!hadOld_) return ::rename(fresh.Name().constData(), QFile::encodeName(path).constData()) == 0;
+    oldFile_ = ChangePlaces(fresh.Path(), path);
+    return true;
+  });
+  if (!placed) RaiseWriteError(errno, path);
   fresh.Release();
+  path_ = path;
+}
 
-  if (Step("syncdir", path, [&] { return SyncFolder(QFileInfo(path).path()); }) || CannotBeDone(errno)) {
-    RememberFolderOf(path);
-    return;
+Replacement::~Replacement() {
+  if (path_.isEmpty()) return;
+  const QByteArray name = QFile::encodeName(path_);
+  if (!oldFile_.isEmpty()) {
+    ::rename(QFile::encodeName(oldFile_).constData(), name.constData());
+  } else if (!hadOld_) {
+    ::unlink(name.constData());
   }
-  const int error = errno;
-  if (keptOld) ::rename(old.Name().constData(), name.constData());
-  if (!hadOld) ::unlink(name.constData());
-  RaiseWriteError(error, path);
+}
+
+Replacement::Replacement(Replacement&& other) noexcept
+    : path_(std::exchange(other.path_, {})),
+      oldFile_(std::exchange(other.oldFile_, {})),
+      hadOld_(other.hadOld_) {}
+
+void Replacement::Keep(std::vector<Replacement>& files) {
+  std::set<QString> synced;
+  for (const Replacement& file : files) {
+    const bool done = Step("syncdir", file.path_, [&] {
+      const QString folder = QFileInfo(file.path_).path();
+      return !synced.insert(folder).second || SyncFolder(folder);
+    });
+    if (done || CannotBeDone(errno)) continue;
+    const int error = errno;
+    const QString path = file.path_;
+    files.clear();
+    RaiseWriteError(error, path);
+  }
+  for (Replacement& file : files) {
+    RememberFolderOf(file.path_);
+    if (!file.oldFile_.isEmpty()) ::unlink(QFile::encodeName(file.oldFile_).constData());
+    file.path_.clear();
+  }
+}
+
+void ReplaceFile(const QString& path, const QByteArray& bytes) {
+  std::vector<Replacement> file;
+  file.emplace_back(path, bytes);
+  Replacement::Keep(file);
 }
 
 void WriteAt(const QString& stored, qint64 position, const QByteArray& bytes) {

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 namespace quillane {
 
@@ -24,8 +25,9 @@ bool FileExists(const QString& folder, const QString& name);
 /// True when `parent` has a sub-folder `name`, compared without regard to case.  Throws 76 when `parent`
 /// cannot be listed.
 bool FolderExists(const QString& parent, const QString& name);
-/// The names of the files in `folder` that match a pattern list such as "*.jpg;*.bmp", in name order without
-/// regard to case; hidden files are listed.  Throws 76 when the folder cannot be listed.
+/// The names of the files in `folder` that match a pattern list such as "*.jpg;*.bmp", each a name or a star
+/// and the end of one, in name order without regard to case; hidden files are listed.  Throws 76 when the
+/// folder cannot be listed.
 QStringList ListFiles(const QString& folder, const QString& patterns);
 QStringList ListFolders(const QString& folder);
 
@@ -38,6 +40,24 @@ QList<QByteArray> ReadFileLines(const QString& path);
 /// file and syncs the folder.  The old file is there until the new one is whole.  Throws 61, 70, 75 or 76 and
 /// leaves the old file.  A name that differs from an existing file's only in case replaces that file.
 void ReplaceFile(const QString& path, const QByteArray& bytes);
+
+/// The same for files that are saved together, whose folders are synced once: each is in its place as soon as
+/// it is made.  What has not been kept goes back to the old file.
+class Replacement {
+ public:
+  Replacement(const QString& path, const QByteArray& bytes);
+  ~Replacement();
+  Replacement(Replacement&& other) noexcept;
+  Replacement& operator=(Replacement&&) = delete;
+  /// Syncs each folder of `files` once.  Throws 61, 70, 75 or 76 and keeps none of them.
+  static void Keep(std::vector<Replacement>& files);
+
+ private:
+  QString path_;     ///< empty once kept
+  QString oldFile_;  ///< the hidden name of the file that was there; empty where there is no copy of it
+  bool hadOld_ = false;
+};
+
 /// Writes `bytes` at `position` (counted from 1) without truncating the file; creates it where it is missing.
 void WriteAt(const QString& path, qint64 position, const QByteArray& bytes);
 /// Clears a read-only mark first, as the program's deletes do.  Throws 53, 70 or 75.

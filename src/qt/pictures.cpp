@@ -65,6 +65,8 @@ QImage ReadImage(const QString& source, QSize most = {}) {
   return image;
 }
 
+constexpr QSize LogoSize(160, 160);  // pixels of the installed logo
+
 /// The installed logo is a JPEG file because a logo must be one, with too few pixels for paper.  Where the
 /// file is still that one, byte for byte, the drawing that it was made from stands in for it.
 QString DrawingBehind(const QString& source) {
@@ -99,23 +101,31 @@ QImage Scaled(const QString& source, QSize pixels) {
   return image;
 }
 
+/// In pixels, once it is sure that the picture can be shown.
+QSize SizeOf(const QString& source) {
+  if (IsDrawing(source)) {
+    const QSize size = Drawing(source).defaultSize();
+    CheckSize(size, source);
+    return size;
+  }
+  // Every start meets the installed logo, and needs no decoder for it.
+  if (DrawingBehind(source) != source) return LogoSize;
+  QImageReader reader(source);
+  reader.setAutoTransform(true);
+  reader.setDecideFormatFromContent(true);
+  const QSize size = SizeOnDisplay(reader);
+  CheckSize(size, source);
+  // A header says nothing about the rest of the file.
+  constexpr int probe = 64;
+  ReadImage(source, {probe, probe});
+  return size;
+}
+
 }  // namespace
 
 Picture ReadPicture(const QString& source) {
   if (!QFileInfo::exists(source)) Raise(errors::FileNotFound, source);
-  QSize size;
-  if (IsDrawing(source)) {
-    size = Drawing(source).defaultSize();
-  } else {
-    QImageReader reader(source);
-    reader.setAutoTransform(true);
-    reader.setDecideFormatFromContent(true);
-    size = SizeOnDisplay(reader);
-  }
-  CheckSize(size, source);
-  // A header says nothing about the rest of the file.
-  constexpr int probe = 64;
-  if (!IsDrawing(source)) ReadImage(source, {probe, probe});
+  const QSize size = SizeOf(source);
   return {source, static_cast<float>(size.width()) * TwipsPerPixel,
           static_cast<float>(size.height()) * TwipsPerPixel};
 }

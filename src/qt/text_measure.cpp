@@ -27,32 +27,35 @@ QFont BuildFont(const Font& font) {
   return built;
 }
 
-/// A font once it has been asked for: advances of the first 256 characters at once, of the others as they
-/// come.
+/// A font once it has been asked for, and the advances of its characters as they come.
 struct MeasuredFont {
   explicit MeasuredFont(const Font& font)
       : key(font),
         built(BuildFont(font)),
         measure(built),
         metrics{static_cast<float>(measure.ascent()), static_cast<float>(measure.height())} {
-    for (size_t i = 0; i < latin.size(); ++i) latin[i] = Advance(QChar(static_cast<char16_t>(i)));
+    latin.fill(Unknown);
   }
 
   float Advance(QChar character) const { return static_cast<float>(measure.horizontalAdvance(character)); }
 
   float AdvanceOf(QChar character) {
     const char16_t code = character.unicode();
-    if (code < latin.size()) return latin[code];
+    if (code < latin.size()) {
+      if (latin[code] == Unknown) latin[code] = Advance(character);
+      return latin[code];
+    }
     auto found = others.find(code);
     if (found == others.end()) found = others.insert(code, Advance(character));
     return *found;
   }
 
+  static constexpr float Unknown = -1;
   Font key;
   QFont built;
   QFontMetricsF measure;
   FontMetrics metrics;
-  std::array<float, 256> latin{};
+  std::array<float, 256> latin;
   QHash<char16_t, float> others;
 };
 
