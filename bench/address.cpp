@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QListView>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cctype>
@@ -16,6 +17,7 @@
 #include "address/book_window.h"
 #include "address/names.h"
 #include "model/proposal.h"
+#include "model/upcalls.h"
 #include "platform/files.h"
 #include "samples.h"
 #include "session.h"
@@ -96,14 +98,21 @@ void Require(bool holds, const char* what) {
   if (!holds) qFatal("%s", what);
 }
 
-/// Our list and the list by hand, a click on the last record and a scan for it, a search for its town.
-void MeasureReading(int times, const QByteArray& name) {
-  Samples list, listByHand, click, clickByHand, find, findByHand;
+/// Our list, the list in its window and the list by hand, a click on the last record and a scan for it, a
+/// search for its town.
+void MeasureReading(int times, const QByteArray& name, QListView& names) {
+  Samples list, shown, letters, listByHand, click, clickByHand, find, findByHand;
   OpenPersonalBook();
   const QByteArray last = RecordBytesAt(ReadBook(BookPath()), addressBook.RecordCount).left(NameWidth);
   const QByteArray row = ListText(Book::Personal, last);
   for (int i = 0; i < times; ++i) {
     list.Add(Milliseconds([] { LoadBook(); }));
+    shown.Add(Milliseconds([] {
+      LoadBook();
+      upcalls().ShowAddresses();
+      Settle();
+    }));
+    letters.Add(Milliseconds([&] { names.keyboardSearch(QStringLiteral("xq")); }));
     listByHand.Add(Milliseconds([&] { Require(!ReadAndSortByHand(name).isEmpty(), "no names"); }));
     int at = 0;
     while (addressBook.lstNames.rows[at] != row) ++at;
@@ -118,6 +127,10 @@ void MeasureReading(int times, const QByteArray& name) {
   }
   PrintLine(QStringLiteral("list of 32,766 names"), QStringLiteral("ms"), list, listByHand,
             {Aim::Of::Ratio, 2});
+  PrintLine(QStringLiteral("the same, shown in its window"), QStringLiteral("ms"), shown, listByHand,
+            {Aim::Of::Ratio, 2});
+  PrintLine(QStringLiteral("letters that no name begins with"), QStringLiteral("ms"), letters, findByHand,
+            {Aim::Of::Value, 5});
   PrintLine(QStringLiteral("click on the last of them"), QStringLiteral("ms"), click, clickByHand,
             {Aim::Of::Value, 50});
   PrintLine(QStringLiteral("find in the last of them"), QStringLiteral("ms"), find, findByHand,
@@ -154,9 +167,12 @@ void MeasureAddressBook(int times) {
   const QByteArray book = FullBook();
   const QString path = prefs.ProposalFolder + QStringLiteral("PerAdd.apx");
   ReplaceFile(path, book);
-  MeasureReading(times, QFile::encodeName(path));
+  OpenAddressBookCommand();
+  Settle();
+  MeasureReading(times, QFile::encodeName(path),
+                 *desk.OpenWindow(QStringLiteral("frmAddress"))->findChild<QListView*>());
   MeasureSaves(times, QFile::encodeName(path), book);
-  UnloadAddressWindow();
+  desk.CloseAllWindows();
 }
 
 }  // namespace quillane::bench

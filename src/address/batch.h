@@ -36,6 +36,8 @@ inline BatchImport batch;
 /// The texts of record `index` of the list that is walked, for the eleven fields; blank for one that it does
 /// not have.
 FieldTexts BatchRecordTexts(int index);
+/// How many records the list has that is walked.
+int BatchRecordCount();
 /// True where the walk's panel is to be seen: a second set-up covers it.
 bool WalkPanelShows();
 
@@ -69,7 +71,7 @@ void WalkRecords(ReadyRecords records);
 void SaveBatchRecordCommand();
 void SkipBatchRecordCommand();
 void EndBatchCommand();
-/// Told how many records of how many have been done; false ends it there.
+/// Told before each record, and behind the last, how many of how many have been done; false ends it there.
 using BatchProgress = std::function<bool(int done, int total)>;
 /// Saves the record on the screen and all behind it, after a question; those without a name are passed over.
 void SaveAllRemainingCommand(const BatchProgress& progress);

@@ -138,12 +138,13 @@ struct QuickWalk {
   Ending Run(const BatchProgress& progress) {
     const int first = batch.BatchIndex, total = batch.BatchLastIndex - first + 1;
     AddressRecord record = RecordToSave(TextsOnScreen());
-    while (progress(batch.BatchIndex - first, total)) {
-      if (!Take(record)) return Ending::Stopped;
-      if (++batch.BatchIndex > batch.BatchLastIndex) return Ending::AllDone;
+    while (true) {
+      if (!progress(batch.BatchIndex - first, total) || !Take(record)) return Ending::Stopped;
+      if (++batch.BatchIndex > batch.BatchLastIndex) break;
       record = RecordOfList(batch.BatchIndex);
     }
-    return Ending::Stopped;
+    progress(total, total);
+    return Ending::AllDone;
   }
 
   QString Summary() const {
@@ -180,6 +181,10 @@ FieldTexts BatchRecordTexts(int index) {
         return index >= 0 && index < SizeOf(list) ? TextsAt(list, index) : FieldTexts();
       },
       batch.list);
+}
+
+int BatchRecordCount() {
+  return std::visit([](const auto& list) { return SizeOf(list); }, batch.list);
 }
 
 bool WalkPanelShows() {

@@ -6,6 +6,7 @@
 #include "address/book.h"
 #include "address/company_info.h"
 #include "model/report.h"
+#include "model/upcalls.h"
 #include "ui/desk.h"
 
 namespace quillane {
@@ -20,7 +21,8 @@ void Enable(std::initializer_list<const char*> names, bool enabled) {
 
 void EnableLoadMenuOptions() {
   Enable({"mnuFile", "mnuFileOpen", "mnuFileNew", "mnuFileOpenBusiness", "mnuFileOpenClientele", "mnuEdit",
-          "mnuEditFind", "mnuOptions", "mnuTools", "mnuToolsImportBatch"},
+          "mnuEditFind", "mnuOptions", "mnuTools", "mnuToolsImportBatch", "mnuToolsImportContacts",
+          "mnuToolsExportContacts"},
          true);
 }
 
@@ -45,14 +47,22 @@ void SwitchTo(const char* command, Open&& open) {
 }  // namespace
 
 void OpenAddressBookCommand() {
-  if (book.CompanyInfoMode)
-    return Tell(
-        QStringLiteral("The Company Information Window must be closed before you open the Address Book."));
+  if (!MayShowAddressBook()) return;
   Guarded("mnuFileOpenAddressBook_Click", [] {
-    if (!MayLeaveRecord()) return;
-    CancelImport();
-    if (ShowAddressBook()) NewRecord();
+    if (ShowNewRecord()) upcalls().ShowAddresses();
   });
+}
+
+bool MayShowAddressBook() {
+  if (!book.CompanyInfoMode) return true;
+  Tell(QStringLiteral("The Company Information Window must be closed before you open the Address Book."));
+  return false;
+}
+
+bool ShowNewRecord() {
+  if (!MayLeaveRecord()) return false;
+  CancelImport();
+  return ShowAddressBook() && NewRecord();
 }
 
 bool ShowAddressBook() {

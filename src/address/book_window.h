@@ -8,6 +8,11 @@ namespace quillane {
 
 /// mnuFileOpenAddressBook: a new record in the personal book.
 void OpenAddressBookCommand();
+/// False, after saying so, while the window shows the business's own details.
+bool MayShowAddressBook();
+/// Asks about a changed record, ends a set-up, and shows a new record in the personal book.  False for
+/// Cancel.
+bool ShowNewRecord();
 /// Opens the window on the personal book.  False when the question about a changed record was answered with
 /// Cancel.
 bool ShowAddressBook();

@@ -157,6 +157,20 @@ void NameRows::Sort() {
   std::transform(order.begin(), order.end(), rows_.begin(), [](const Place& place) { return place.row; });
 }
 
+int NameRows::RowThatBegins(QByteArrayView typed, int start) const {
+  const SortTable& table = TheSortTable();
+  const auto alike = [&table](char a, char b) {
+    return table[static_cast<uchar>(a)] == table[static_cast<uchar>(b)];
+  };
+  for (int step = 0; step < Count(); ++step) {
+    const int row = (start + step) % Count();
+    const QByteArrayView text = (*this)[row];
+    if (text.size() >= typed.size() && std::equal(typed.begin(), typed.end(), text.begin(), alike))
+      return row;
+  }
+  return -1;
+}
+
 QByteArrayView NameRows::operator[](int row) const {
   RequireIndex(row, Count());
   return TextOf(rows_[static_cast<size_t>(row)]);

@@ -34,6 +34,9 @@ class NameRows {
   /// Sorts without regard to case and accents, character by character; what is alike then stands by its
   /// bytes.
   void Sort();
+  /// The first row from `start` on, going round, that begins with `typed` without regard to case and accents;
+  /// -1 for none.
+  int RowThatBegins(QByteArrayView typed, int start) const;
   int Count() const { return static_cast<int>(rows_.size()); }
   /// Throws 9.
   QByteArrayView operator[](int row) const;

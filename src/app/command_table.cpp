@@ -1,3 +1,6 @@
+#include "address/book_window.h"
+#include "address/company_info.h"
+#include "app/address_merge.h"
 #include "app/commands.h"
 #include "app/small_commands.h"
 #include "app/startup.h"
@@ -43,7 +46,7 @@ const std::vector<Command> FileEntries = {
     Menu("mnuFile", "mnuFileOpen", "&Open"),
     Entry("mnuFileOpen", "mnuFileOpenEvent", "Open Proposal File", "Ctrl+O", OpenEventCommand),
     Entry("mnuFileOpen", "mnuFileOpenFootnotes", "Open Foo&tnotes", "Ctrl+T", nullptr),
-    Entry("mnuFileOpen", "mnuFileOpenAddressBook", "Open Address Book", "Ctrl+B", nullptr),
+    Entry("mnuFileOpen", "mnuFileOpenAddressBook", "Open Address Book", "Ctrl+B", OpenAddressBookCommand),
     Entry("mnuFileOpen", "mnuFileOpenTextFile", "Open Text File", "", OpenTextFileCommand),
     Rule("mnuFile"),
     Entry("mnuFile", "mnuFileSaveEvent", "&Save Proposal Fi&le", "Ctrl+S", [] { SaveEventFile(); }),
@@ -86,7 +89,7 @@ const std::vector<Command> FileEntries = {
 
 const std::vector<Command> EditEntries = {
     Menu("", "mnuEdit", "&Edit"),
-    Entry("mnuEdit", "mnuEditCompInfo", "Edit Company Info", "", nullptr),
+    Entry("mnuEdit", "mnuEditCompInfo", "Edit Company Info", "", EditCompanyInfoCommand),
     Entry("mnuEdit", "mnuEditTitles", "Proposal Page Titles and Subtitles", "",
           [] { desk().ShowWindow(QStringLiteral("frmTitle"), Modality::Modal); }),
     Rule("mnuEdit"),
@@ -177,8 +180,10 @@ const std::vector<Command> OptionEntries = {
     Entry("mnuOpt", "mnuOptUserPref", "User Preferences", "",
           [] { desk().ShowWindow(QStringLiteral("frmPref"), Modality::Modal); }),
     Rule("mnuOpt"),
-    Entry("mnuOpt", "mnuOptCopyToPersonalAddressBook", "Add Bride to Address Book", "", nullptr),
-    Entry("mnuOpt", "mnuOptCopyGroomToPersonalAddressBook", "Add Groom to Address Book", "", nullptr),
+    Entry("mnuOpt", "mnuOptCopyToPersonalAddressBook", "Add Bride to Address Book", "",
+          [] { AddPartyCommand(Party::Bride); }),
+    Entry("mnuOpt", "mnuOptCopyGroomToPersonalAddressBook", "Add Groom to Address Book", "",
+          [] { AddPartyCommand(Party::Groom); }),
     Rule("mnuOpt"),
     Checkable(
         Entry("mnuOpt", "mnuOptUnderline", "Underline Main Categories when Printing", "", ToggleUnderline),

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "address/book_window.h"
 #include "app/commands.h"
 #include "editing/areas.h"
 #include "editing/grid.h"
@@ -125,6 +126,8 @@ void ConnectLayers() {
   calls = {};
   calls.BackupThisFile = BackupThisFile;
   calls.ResumeEditing = ResumeEditing;
+  checkedBooks = {};
+  UnloadAddressWindow();
   frame().VScroll1.Value.changed = [](int value) { ScrollChanged(value); };
   InstallPageHandlers();
 }

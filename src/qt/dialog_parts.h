@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <functional>
 
@@ -18,6 +19,21 @@ Widget* Named(Widget* widget, const QString& name, const QString& spoken = QStri
   if (!spoken.isEmpty()) widget->setAccessibleName(spoken);
   return widget;
 }
+
+/// A box for many lines that asks for the room of a few, and takes what there is.
+class LinesBox : public QPlainTextEdit {
+ public:
+  explicit LinesBox(int lines) : lines_(lines) {}
+  QSize sizeHint() const override { return {QPlainTextEdit::sizeHint().width(), Height()}; }
+  QSize minimumSizeHint() const override { return {QPlainTextEdit::minimumSizeHint().width(), Height()}; }
+
+ private:
+  int Height() const {
+    constexpr int edges = 12;
+    return fontMetrics().height() * lines_ + edges;
+  }
+  int lines_;
+};
 
 /// A label for a text that is never markup.
 QLabel* PlainLabel(const QString& name, const QString& text);

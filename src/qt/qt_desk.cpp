@@ -5,12 +5,14 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QUrl>
 #include <algorithm>
 
@@ -43,9 +45,19 @@ void LeaveButtonsPlain(const QDialog& window) {
     for (QAbstractButton* button : box->buttons()) button->setIcon(QIcon());
 }
 
-QWidget* BoxParent(QWidget* frame) {
-  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  return frame && frame->isVisible() ? frame : nullptr;
+/// Where the desktop keeps what its user writes.
+QString DocumentsFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+void OfferFiles(QFileDialog& dialog, const FileKind& kind) {
+  dialog.setDefaultSuffix(kind.extension);
+  dialog.setNameFilters(
+      {QStringLiteral("%1 (*.%2)").arg(kind.name, kind.extension), QStringLiteral("All Files (*)")});
+}
+
+QString Chosen(QFileDialog& dialog) {
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 }  // namespace
 
@@ -54,8 +66,17 @@ QtDesk::QtDesk() {
 }
 QtDesk::~QtDesk() = default;
 
+/// The window in front, so that a box never comes up under it.
+QWidget* QtDesk::BoxParent() const {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (!frameWindow || !frameWindow->isVisible()) return nullptr;
+  for (const Opened& opened : opened_)
+    if (opened.window->isVisible() && opened.window->isActiveWindow()) return opened.window.get();
+  return frameWindow;
+}
+
 Answer QtDesk::MessageBox(const QString& text, const QString& title, Buttons buttons) {
-  QMessageBox box(QMessageBox::NoIcon, title, text, ButtonsOf(buttons), BoxParent(frameWindow));
+  QMessageBox box(QMessageBox::NoIcon, title, text, ButtonsOf(buttons), BoxParent());
   constexpr int markSize = 48;
   box.setIconPixmap(
       IconOf(QStringLiteral(":/icons/quillane.svg")).pixmap({markSize, markSize}, box.devicePixelRatio()));
@@ -82,7 +103,7 @@ Answer QtDesk::MessageBox(const QString& text, const QString& title, Buttons but
 }
 
 QString QtDesk::InputBox(const QString& prompt, const QString& title, const QString& preset) {
-  QInputDialog box(BoxParent(frameWindow));
+  QInputDialog box(BoxParent());
   box.setWindowTitle(title);
   box.setTextValue(preset);
   box.setLabelText(prompt);
@@ -97,6 +118,21 @@ QString QtDesk::InputBox(const QString& prompt, const QString& title, const QStr
   return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
+QString QtDesk::FileToOpen(const QString& title, const FileKind& kind) {
+  QFileDialog dialog(BoxParent(), title, DocumentsFolder());
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  OfferFiles(dialog, kind);
+  return Chosen(dialog);
+}
+
+QString QtDesk::FileToSave(const QString& title, const FileKind& kind, const QString& name) {
+  QFileDialog dialog(BoxParent(), title, DocumentsFolder());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  OfferFiles(dialog, kind);
+  dialog.selectFile(name + u'.' + kind.extension);
+  return Chosen(dialog);
+}
+
 void QtDesk::ShowWindow(const QString& name, Modality modality) {
   if (name == QLatin1String("frmMain")) {
     if (showFrame) showFrame();
@@ -108,7 +144,9 @@ void QtDesk::ShowWindow(const QString& name, Modality modality) {
     open->activateWindow();
     return;
   }
-  std::unique_ptr<QDialog> made = MakeWindow(name, BoxParent(frameWindow));
+  QWidget* modal = QApplication::activeModalWidget();
+  QWidget* frame = frameWindow && frameWindow->isVisible() ? frameWindow : nullptr;
+  std::unique_ptr<QDialog> made = MakeWindow(name, modal ? modal : frame);
   if (!made) return;
   QDialog& window = *made;
   LeaveButtonsPlain(window);

@@ -18,6 +18,8 @@ class QtDesk : public Desk {
 
   Answer MessageBox(const QString& text, const QString& title, Buttons buttons) override;
   QString InputBox(const QString& prompt, const QString& title, const QString& preset) override;
+  QString FileToOpen(const QString& title, const FileKind& kind) override;
+  QString FileToSave(const QString& title, const FileKind& kind, const QString& name) override;
   /// A name without a window does nothing.  A window that is open already comes to the front.
   void ShowWindow(const QString& name, Modality modality) override;
   /// Closing "frmMain" closes every window, the last opened first.
@@ -62,6 +64,7 @@ class QtDesk : public Desk {
     std::unique_ptr<QDialog> window;
   };
   void Forget(const QString& name);
+  QWidget* BoxParent() const;
 
   std::vector<Opened> opened_;
   QElapsedTimer sinceStart_;

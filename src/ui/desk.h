@@ -17,12 +17,25 @@ enum class Answer { Ok, Yes, No, Cancel };
 enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Modality { Modal, Modeless };
 
+/// Files of one kind, as a dialog lists them: {"Contacts", "vcf"}.
+struct FileKind {
+  QString name, extension;
+};
+
 class Desk {
  public:
   virtual ~Desk() = default;
   virtual Answer MessageBox(const QString& text, const QString& title, Buttons buttons) = 0;
   /// What was typed, or empty for Cancel.
   virtual QString InputBox(const QString& prompt, const QString& title, const QString& preset) = 0;
+  /// The path of a file that is there, or of one to write, which the user has agreed to replace if it is;
+  /// empty for Cancel.
+  virtual QString FileToOpen(const QString& title, const FileKind& kind) {
+    return InputBox(kind.name, title, {});
+  }
+  virtual QString FileToSave(const QString& title, const FileKind& kind, const QString& name) {
+    return InputBox(kind.name, title, name);
+  }
   /// Shows the window named "frmTax" and so on.  Modal returns when it has been closed.
   virtual void ShowWindow(const QString& name, Modality modality) = 0;
   virtual void CloseWindow(const QString& name) = 0;

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
-#include <QSettings>
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -19,6 +18,7 @@
 #include "model/proposal.h"
 #include "model/upcalls.h"
 #include "qt/icons.h"
+#include "qt/window_place.h"
 #include "sheet/rubber_band.h"
 #include "sheet/sheet_view.h"
 #include "windows/strip_bar.h"
@@ -42,11 +42,6 @@ void PopUpMenu(const QString& name, Control& control) {
 void RedrawPage(int window) {
   if (SheetView* sheet = TheSheetView(); sheet && sheet->CurrentWindow() == window) sheet->update();
 }
-
-QSettings WindowSettings() {
-  return QSettings(prefs.ProgramFolder + QStringLiteral("window.ini"), QSettings::IniFormat);
-}
-const QString GeometryKey = QStringLiteral("frmMain/geometry");
 
 QColor ToQColor(Color color) {
   return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
@@ -135,8 +130,7 @@ void FrameWindow::ConnectModel() {
 }
 
 void FrameWindow::ShowAsBefore() {
-  const QByteArray geometry = WindowSettings().value(GeometryKey).toByteArray();
-  if (!geometry.isEmpty() && restoreGeometry(geometry)) return show();
+  if (RestorePlace(*this, objectName())) return show();
   // The size for desktops that do not maximise, and for the day the window is made smaller.
   resize(screen()->availableSize() * 0.95);
   showMaximized();
@@ -244,7 +238,7 @@ bool FrameWindow::ReturnToSheet(const QEvent& event) {
 }
 
 void FrameWindow::closeEvent(QCloseEvent* event) {
-  WindowSettings().setValue(GeometryKey, saveGeometry());
+  KeepPlace(*this, objectName());
   if (!editing.Quitting) RunCommand(QStringLiteral("mnuFileExit"));
   event->setAccepted(editing.Quitting);
 }

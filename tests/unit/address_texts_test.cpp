@@ -38,6 +38,9 @@ TEST(AddressTexts, APersonIsListedByTheLastNameAndFoundAgainByIt) {
   QByteArray sorted;
   for (int row = 0; row < rows.Count(); ++row) sorted += rows[row].toByteArray() + '|';
   EXPECT_EQ(sorted, "A|a|a |b|Emile Ann|emile bo|\xC9mile Bo|\xFF|Z|");
+  EXPECT_EQ(rows.RowThatBegins("\xC9mile B", 6), 6);
+  EXPECT_EQ(rows.RowThatBegins("EMILE b", 7), 5) << "from the last it goes round";
+  EXPECT_EQ(rows.RowThatBegins("bo", 0), -1);
 }
 
 TEST(AddressTexts, ARecordIsCutAndPaddedToItsFields) {

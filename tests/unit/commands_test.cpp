@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include "address/book_window.h"
+#include "app/address_commands.h"
 #include "connected_program.h"
 
 using namespace quillane;
@@ -73,6 +75,42 @@ TEST_F(CommandTable, AFailingCommandIsReportedUnderItsNameOnce) {
   ASSERT_EQ(desk.said.size(), 1);
   EXPECT_EQ(desk.said[0].title, "Program Error");
   EXPECT_TRUE(desk.said[0].text.contains("An error occurred in mnuHelpTutorial.\nError Number: 53"));
+}
+
+TEST_F(CommandTable, AMergedRecordFillsItsAreasAndLeavesLockedOnes) {
+  prefs.ProposalFolder = Path("Wedding Proposals/");
+  Book book = Book::Personal;
+  const auto merge = [&book](const QString& entry, const QString& fields) {
+    UnloadAddressWindow();
+    RunCommand("mnuFileOpenAddressBook");
+    book == Book::Personal ? SwitchToPersonalBookCommand() : SwitchToCompanyBookCommand();
+    int index = 0;
+    for (const QString& text : fields.split(u'|')) SetField(index++, text);
+    for (const Command& command : AddressCommands())
+      if (entry == QLatin1String(command.name)) command.run();
+    QStringList texts;
+    for (int area = 0; area < 18; ++area) texts << page(0).txt[area].Text();
+    return texts.join(u'|').toStdString();
+  };
+  page(0).txt[0].SetText("May 1, 2027");
+  desk.answers.append(Answer::Yes);
+  EXPECT_EQ(merge("mnuOptMerge", "Ann|1 Elm|2nd|Bend|H|W|C||X|a@b.c"),
+            "||Ann|1 Elm - 2nd|Bend|H|C|a@b.c||||||||||")
+      << "a Yes empties the date too";
+  desk.said.clear();
+  book = Book::Company;
+  EXPECT_EQ(merge("mnuOptMergeGroom", "Mill|1 Mill Road||Salem|P|F|C|May 2"),
+            "May 2||Ann|1 Elm - 2nd|Bend|H|C|a@b.c|Mill|1 Mill Road|Salem||P|||||");
+  EXPECT_TRUE(desk.said.isEmpty()) << "an empty date gives way unasked";
+  editing.DoNotLockFormat = false;
+  format.FormatIsOpen = true;
+  for (const int area : {0, 14}) format.FormatTextRec[0][area].HasFormatText = true;
+  merge("mnuOptMergeCeremony", "Oak|2 Oak Road|Hall");
+  EXPECT_EQ(page(0).txt[14].Text() + u'|' + page(0).txt[15].Text(), "|2 Oak Road - Hall");
+  EXPECT_EQ(frame()["lblStatus"].Caption(), "1 area is locked by the format and keeps its text.");
+  merge("mnuOptMergeExit", "Eve|||||||Jun 1");
+  EXPECT_EQ(page(0).txt[0].Text() + u'|' + page(0).txt[2].Text(), "May 2|Eve");
+  EXPECT_FALSE(desk.shown.contains("frmAddress"));
 }
 
 TEST_F(CommandTable, ShortcutsAreEntriesOnTheDesktopAndAmongTheApplications) {

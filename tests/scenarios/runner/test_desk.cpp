@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "model/proposal.h"
 #include "platform/runtime_error.h"
 #include "print/print.h"
 
@@ -51,7 +52,19 @@ class Collected : public Surface {
   QString written_;
 };
 
+/// A name that a script gives for a file lies beside the proposals.
+QString BesideProposals(const QString& name) {
+  return name.isEmpty() ? name : prefs.ProposalFolder + name;
+}
+
 }  // namespace
+
+QString TestDesk::FileToOpen(const QString& title, const FileKind& kind) {
+  return BesideProposals(boxes.Input(kind.name, title, {}));
+}
+QString TestDesk::FileToSave(const QString& title, const FileKind& kind, const QString& name) {
+  return BesideProposals(boxes.Input(kind.name, title, name));
+}
 
 bool TestDesk::OpenExternally(const QString& target) {
   opened.append(target);

@@ -42,6 +42,8 @@ class TestDesk : public QtDesk {
   QString InputBox(const QString& prompt, const QString& title, const QString& preset) override {
     return boxes.Input(prompt, title, preset);
   }
+  QString FileToOpen(const QString& title, const FileKind& kind) override;
+  QString FileToSave(const QString& title, const FileKind& kind, const QString& name) override;
   QString ClipboardText() const override { return clipboard; }
   void SetClipboardText(const QString& text) override { clipboard = text; }
   bool OpenExternally(const QString& target) override;
