@@ -265,8 +265,13 @@ void Player::Run(const Statement& statement) {
 /// What a statement leaves to the event loop is done before the next one looks, such as the window's caption.
 /// The keyboard goes back to the window in front where a menu or a window that has closed took it along: a
 /// desktop's window manager does that, and the platform without a screen has none.
-void Player::Settle() const {
+void Player::Settle() {
   if (program && program->Window()) QCoreApplication::sendPostedEvents(program->Window(), QEvent::MetaCall);
+  // A window that the statement has opened is told later that the keyboard is its own.
+  if (const QStringList open = desk.OpenWindows(); open != windows_) {
+    windows_ = open;
+    QCoreApplication::processEvents();
+  }
   QWidget* active = QApplication::activeWindow();
   if (QApplication::activePopupWidget() || (active && active->isVisible())) return;
   QWidget* front = Front();

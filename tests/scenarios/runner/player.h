@@ -93,7 +93,7 @@ class Player {
   void Tick();
   bool MayGoOn() const;
   void Run(const Statement& statement);
-  void Settle() const;
+  void Settle();
   bool CloseInFront();
   void EndIfLeft();
   void Finish();
@@ -106,6 +106,7 @@ class Player {
   QTextStream& out_;
   QObject clock_;  ///< the owner of the timers that drive the script
   std::vector<Running> running_;
+  QStringList windows_;  ///< that were open when the last statement ended
   size_t next_ = 0;
   bool stopped_ = false;  ///< an action failed: what follows makes no sense
   bool finished_ = false;
