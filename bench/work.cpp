@@ -15,8 +15,10 @@
 #include "app/startup.h"
 #include "editing/navigation.h"
 #include "files/event_file.h"
+#include "model/event_bytes.h"
 #include "model/focus.h"
 #include "model/proposal.h"
+#include "pages/show_document.h"
 #include "pages/totals.h"
 #include "print/print.h"
 #include "qt/text_measure.h"
@@ -161,7 +163,7 @@ void ReplaceByHand(const QString& folder, const QByteArray& bytes) {
 
 void MeasureSaving(int times) {
   Samples ours, byHand;
-  const QByteArray bytes = EventFileBytes();
+  const QByteArray bytes = EventFileBytes(ReadPages());
   for (int i = 0; i < times; ++i) {
     page(1).txt[0].SetText(QStringLiteral("Saved for the %1th time").arg(i));
     ours.Add(Milliseconds([] {

@@ -8,6 +8,7 @@
 
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "pages/show_document.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -135,8 +136,7 @@ void LogonCommand() {
 
 void TestStringsCommand() {
   for (const int index : {3, 4}) {
-    const QString saved = proposal.SavedText[index][3];
-    Tell(page(index).txt[3].Text() + QStringLiteral(" Text Area = ") + saved);
+    Tell(page(index).txt[3].Text() + QStringLiteral(" Text Area = ") + SavedText(index, 3));
   }
 }
 

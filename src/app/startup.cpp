@@ -72,7 +72,7 @@ void ShowFrameControls() {
 }
 
 void PreparePages() {
-  proposal.SubTitle = SubtitleAtStart();
+  proposal.SubTitleText = SubtitleAtStart();
   ConvertOldFiles();
   desk().ServeEvents();
   SetUpPages();

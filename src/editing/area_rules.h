@@ -2,6 +2,7 @@
 // labels.
 #pragma once
 #include "editing/areas.h"
+#include "model/document.h"
 #include "model/report.h"
 
 namespace quillane {
@@ -27,15 +28,10 @@ inline const Control& At(const Array<Control>& controls, int index) {
   return controls[index];
 }
 
-inline const QString QuantityPrompt = QStringLiteral("Qty.");
-inline const QString EachPrompt = QStringLiteral("Amt.");
-/// A prompt is no figure: it stands until one is typed.
 inline bool ShowsPrompt(const Control& box) {
   return box.Text() == QuantityPrompt || box.Text() == EachPrompt;
 }
 
-/// Whether the row's quantity and each-price stand beside it.
-bool ColumnsShow(const Page& page, int row);
 /// The open format fixes this area's text and the option that frees it is off.
 bool FixedByFormat(const Page& page, int area);
 /// The text has reached the control's width, or passes the limit of its Tag or, in a row with columns, of the
@@ -44,9 +40,6 @@ bool IsTooLong(const Page& page, const Control& control);
 /// Red when too long, else the colour of rest, or cyan where the focus is.  A selected control stays as it
 /// is.
 void RefreshWarning(const Page& page, Control& control);
-
-/// Brings PageText and the row's marks in both tables up to date with the page.
-void StoreArea(Page& page, int area);
 
 /// The control that Enter or Tab leads to, and Shift+Tab leads back to; null at the ends of the proposal.
 Control* NextControl(Page& page, const Control& from);

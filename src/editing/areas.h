@@ -48,7 +48,7 @@ QString PasteInto(const Control& control, const QString& text);
 /// Moves the pending word into the next area, see CheckPushNeeded.
 void PushTheText(Page& page, int area);
 void CheckPushNeeded();
-/// Adds or removes the columns of editing.CurrentArea on editing.CurrentForm.
+/// Adds or removes the columns of editing.CurrentArea on the page in use.
 void ToggleColumns();
 void RefreshAreaWarnings(Page& page);
 /// How wide a text of the area prints, in inches: upright and without a line under it, as paper has it.

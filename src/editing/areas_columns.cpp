@@ -16,26 +16,21 @@ void PutPromptsBack(Page& page, int row) {
 void ShowColumns(Page& page, int row, bool shown) {
   ShowRowColumns(page, row, shown);
   PutPromptsBack(page, row);
-  StoreArea(page, row);
   RefreshWarning(page, At(page.txt, row));
 }
 
 }  // namespace
 
-bool ColumnsShow(const Page& page, int row) {
-  return page.IsRow(row) && At(page.txtQty, row).Visible();
-}
-
 void ToggleColumns() {
-  Page* page = editing.CurrentForm;
+  Page& page = editing.CurrentForm();
   const int row = editing.CurrentArea;
-  if (!page || !page->IsRow(row) || editing.AreasSelected || FixedByFormat(*page, row)) return;
-  if (!page->columnsLoaded) LoadColumns(*page);
-  const bool show = !ColumnsShow(*page, row);
-  ShowColumns(*page, row, show);
+  if (!page.IsRow(row) || editing.AreasSelected || FixedByFormat(page, row)) return;
+  if (!page.ColumnsLoaded) LoadColumns(page);
+  const bool show = !page.HasColumns(row);
+  ShowColumns(page, row, show);
   // With the client's copy in front the command still acts, but the focus does not leave the page that is
   // seen.
-  if (editing.FrontWindow != CopyOfPage6) SetFocus(At(show ? page->txtQty : page->txt, row));
+  if (!editing.CopyInFront) SetFocus(At(show ? page.txtQty : page.txt, row));
 }
 
 }  // namespace quillane

@@ -4,7 +4,7 @@
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "pages/defaults.h"
-#include "pages/features.h"
+#include "pages/rows.h"
 #include "pages/totals.h"
 #include "platform/dates.h"
 #include "platform/numbers.h"
@@ -27,7 +27,6 @@ Color RestColour(const Control& control) {
 // Commands act on the page that was edited last, so the client's copy never becomes the page in use.
 void TakeAsCurrent(Page& page, int area) {
   if (page.window == CopyOfPage6) return;
-  editing.CurrentForm = &page;
   editing.CurrentPage = page.pageIndex;
   editing.CurrentArea = area;
 }
@@ -39,7 +38,7 @@ void ShowAreaCaption(const Page& page, int area) {
 }
 
 void AreaGotFocus(Page& page, Control& area) {
-  if (page.IsItemPage() && !page.columnsLoaded) LoadColumns(page);
+  if (page.IsItemPage() && !page.ColumnsLoaded) LoadColumns(page);
   if (!editing.MovingContents) {
     editing.CurrentAreaLimit = area.Tag().right(3);
     editing.CurrentAreaWidth = area.Width();
@@ -113,7 +112,7 @@ bool IsTooLong(const Page& page, const Control& control) {
   if (IsColumnBox(control))
     return !ShowsPrompt(control) && TextWidth(control.GetFont(), text) >= control.Width();
   if (text.size() > AreaLimit(control) || TextWidth(control.GetFont(), text) >= control.Width()) return true;
-  return ColumnsShow(page, control.Index()) && StoredForm(page, control.Index()).size() > StoredFieldLength;
+  return page.HasColumns(control.Index()) && StoredForm(page, control.Index()).size() > StoredFieldLength;
 }
 
 void RefreshWarning(const Page& page, Control& control) {

@@ -15,23 +15,14 @@ namespace quillane {
 namespace {
 
 constexpr int KeysPerBackup = 20;
-constexpr int ClientName = 2;
-constexpr int Deposit = 4;
-
-// A copy is no use while the name is half typed, and a backup never overwrites what it was opened from.
-bool BackupMustWait() {
-  const bool naming = !proposal.FileIsNamed && editing.Focus == &page(0).txt[ClientName];
-  return naming || proposal.OpenedFromBackup;
-}
 
 void CountKey() {
   if (++editing.KeysSinceBackup < KeysPerBackup) return;
   editing.KeysSinceBackup = 0;
-  if (!BackupMustWait()) upcalls().BackupThisFile();
+  upcalls().BackupThisFile();
 }
 
 void Toggle(Page& page, int row) {
-  editing.CurrentForm = &page;
   editing.CurrentPage = page.pageIndex;
   editing.CurrentArea = row;
   ToggleColumns();
@@ -147,7 +138,7 @@ Handled ColumnBoxKeyDown(Page& page, Control& box, const KeyEvent& event) {
 
 Handled TotalsKeyDown(Page& page, Control& area, const KeyEvent& event) {
   if (IsWalk(event)) {
-    if (page.window != CopyOfPage6 && area.Index() == Deposit) RewriteDeposit();
+    if (page.window != CopyOfPage6 && area.Index() == shape::Deposit) RewriteDeposit();
     if (event.key == keys::Tab) Walk(page, area, event);
     return Handled::Yes;
   }
@@ -168,7 +159,6 @@ void MoveBlock(Page& page, bool down) {
 }
 
 Handled ItemPageKeyDown(Page& page, const KeyEvent& event) {
-  editing.CurrentForm = &page;
   editing.CurrentPage = page.pageIndex;
   const bool arrow = event.key == keys::Up || event.key == keys::Down;
   if (arrow && event.shift && HasSelection(page)) {

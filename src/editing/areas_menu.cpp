@@ -29,8 +29,7 @@ void SetColumnsEntry(const Page& page, int area, State state) {
   EnableMenu("mnuEditTextColumns", on);
   Control* entry = frame().Find(QStringLiteral("mnuEditTextColumns"));
   if (!on || !entry) return;
-  entry->SetCaption(At(page.txtQty, area).Visible() ? QStringLiteral("Remove Columns")
-                                                    : QStringLiteral("Add Columns"));
+  entry->SetCaption(page.HasColumns(area) ? QStringLiteral("Remove Columns") : QStringLiteral("Add Columns"));
 }
 
 void SetCharacterEntries(bool charactersSelected) {

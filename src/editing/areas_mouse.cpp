@@ -11,7 +11,6 @@ namespace quillane {
 namespace {
 
 void TakeAsCurrent(Page& page, int area) {
-  editing.CurrentForm = &page;
   editing.CurrentPage = page.pageIndex;
   editing.CurrentArea = area;
 }
@@ -56,7 +55,7 @@ bool TakesTerms(const Page& page, const Control& control) {
 
 void PutPrice(Page& page, int row, const QString& price) {
   Control& amount = At(page.txt, row + page.AmountOffset());
-  Control& target = ColumnsShow(page, row) ? At(page.txtAmt, row) : amount;
+  Control& target = page.HasColumns(row) ? At(page.txtAmt, row) : amount;
   if (AcceptsTyping(target)) target.SetText(price);
   SetFocus(amount);
 }

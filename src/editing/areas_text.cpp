@@ -3,7 +3,6 @@
 
 #include "editing/area_rules.h"
 #include "model/proposal.h"
-#include "pages/features.h"
 #include "pages/titles.h"
 #include "pages/totals.h"
 #include "platform/codepage.h"
@@ -12,20 +11,15 @@ namespace quillane {
 
 namespace {
 
-constexpr int ClientName = 2;  // frmP1.txt(2), which also names the file
-
-TextAreaRecord& Record(TextTable& table, const Page& page, int area) {
-  return table[page.pageIndex][area];
-}
-
 // A selection does not count as typing, unless a command on it has said that the figures must follow.
 bool ChangesAreIgnored() {
   return editing.RebuildingPages || editing.OpeningFile || editing.MovingContents || editing.ApplyingFonts ||
          (editing.AreasSelected && !editing.RecalcPending);
 }
 
-// What is on the screen is what a file will hold: a character that the code page lacks becomes its kin at
-// once. True when the text had to be rewritten; the change handler has then run on the new text.
+// What is on the screen is what a file will hold: a character that the code page lacks becomes its closest
+// equivalent at once. True when the text had to be rewritten; the change handler has then run on the new
+// text.
 bool RewrittenInCodePage(Control& control) {
   const QString& text = control.Text();
   const QString folded = FoldToCodePage(text);
@@ -36,25 +30,17 @@ bool RewrittenInCodePage(Control& control) {
   return true;
 }
 
-void NameTheProposal(const QString& client) {
-  const bool named = !client.isEmpty();
-  proposal.BaseName = client;
-  proposal.EventFileName = named ? client + QStringLiteral(".wwf") : QString();
-  proposal.TextFileName = named ? client + QStringLiteral(".txt") : QString();
-  if (!proposal.TitleByHand) proposal.Title = named ? QStringLiteral("Proposal for ") + client : QString();
+void NameAfterClient(const QString& client) {
+  NameProposal(client);
+  if (!proposal.TitleByHand) proposal.Title = TitleFor(client);
   UpdateEventNameLabels();
 }
 
-void TakeContext(const Page& page, const Control& area) {
+void TakeContext(const Control& area) {
   editing.CurrentText = area.Text();
   editing.CurrentAreaType = AreaKind(area);
   editing.CurrentAreaLimit = area.Tag().right(3);
   editing.CurrentAreaWidth = area.Width();
-  TextAreaRecord& record = Record(proposal.TextRec, page, area.Index());
-  record.FontBold = area.GetFont().bold;
-  if (IsNumericArea(area)) return;
-  record.Text = area.Text();
-  Record(format.FormatTextRec, page, area.Index()).Text = area.Text();
 }
 
 // Only what a person types makes words run on, and the words that such a push has moved.
@@ -74,36 +60,23 @@ bool WasTyped(const Control& area) {
 
 void AreaChanged(Page& page, Control& area) {
   const bool typed = WasTyped(area);
-  StoreArea(page, area.Index());
-  TakeContext(page, area);
+  TakeContext(area);
   if (IsNumericArea(area)) AmountTextChanged(page, area);
   PushOverflow(page, area, typed);
   if (editing.AreasSelected) return;
   if (IsTooLong(page, area)) area.SetBackColor(colors::Red);
-  if (page.window == 0 && area.Index() == ClientName && !proposal.FileIsNamed)
-    NameTheProposal(area.Text().trimmed());
+  if (page.window == 0 && area.Index() == shape::ClientName && !proposal.FileIsNamed)
+    NameAfterClient(area.Text().trimmed());
 }
 
 void ColumnBoxChanged(Page& page, Control& box) {
   const int row = box.Index();
-  StoreArea(page, row);
   if (!editing.AreasSelected) RefreshWarning(page, At(page.txt, row));
   // Under a command that rewrites rows the amount comes with the row; it is not worked out anew.
   if (!editing.RecalcPending) MultiplyRow(page, row, Product::FromTyping);
 }
 
 }  // namespace
-
-void StoreArea(Page& page, int area) {
-  proposal.PageText[page.pageIndex][area] = StoredForm(page, area);
-  if (page.IsAmount(area)) return;
-  const bool columns = ColumnsShow(page, area);
-  Record(proposal.TextRec, page, area).QtyBox = columns;
-  TextAreaRecord& layer = Record(format.FormatTextRec, page, area);
-  layer.QtyBox = columns;
-  layer.QtyValue = columns ? At(page.txtQty, area).Text() : QString();
-  layer.AmtValue = columns ? At(page.txtAmt, area).Text() : QString();
-}
 
 void TextChanged(Control& control) {
   Page* page = PageOf(control);

@@ -16,7 +16,7 @@ Control& LastOf(int window) {
 }
 
 Control& StartOfRow(Page& page, int row) {
-  return ColumnsShow(page, row) ? At(page.txtQty, row) : At(page.txt, row);
+  return page.HasColumns(row) ? At(page.txtQty, row) : At(page.txt, row);
 }
 
 Control* BeforeRow(Page& page, int row) {
@@ -58,7 +58,7 @@ Control* NextControl(Page& page, const Control& from) {
   if (IsEachPrice(from)) return &At(page.txt, index + page.AmountOffset());
   if (page.IsTotalsPage()) return NextOfTotals(page, index);
   if (page.IsRow(index))
-    return ColumnsShow(page, index) ? &At(page.txtAmt, index) : &At(page.txt, index + page.AmountOffset());
+    return page.HasColumns(index) ? &At(page.txtAmt, index) : &At(page.txt, index + page.AmountOffset());
   if (page.IsAmount(index)) return AfterAmount(page, index - page.AmountOffset());
   return index + 1 == page.FirstRow() ? &StartOfRow(page, index + 1) : &At(page.txt, index + 1);
 }
@@ -68,10 +68,10 @@ Control* PreviousControl(Page& page, const Control& from) {
   if (IsQuantity(from)) return BeforeRow(page, index);
   if (IsEachPrice(from)) return &At(page.txt, index);
   if (page.IsTotalsPage()) return PreviousOfTotals(page, index);
-  if (page.IsRow(index)) return ColumnsShow(page, index) ? &At(page.txtQty, index) : BeforeRow(page, index);
+  if (page.IsRow(index)) return page.HasColumns(index) ? &At(page.txtQty, index) : BeforeRow(page, index);
   if (page.IsAmount(index)) {
     const int row = index - page.AmountOffset();
-    return ColumnsShow(page, row) ? &At(page.txtAmt, row) : &At(page.txt, row);
+    return page.HasColumns(row) ? &At(page.txtAmt, row) : &At(page.txt, row);
   }
   return index > 0 ? &At(page.txt, index - 1) : nullptr;
 }

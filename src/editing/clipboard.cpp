@@ -14,15 +14,6 @@ namespace quillane {
 
 namespace {
 
-const ClipRow EmptyRow{{}, false, QStringLiteral("Hide"), {}};
-const ClipAmount EmptyAmount{};
-
-bool HasBlueRow(Page& page) {
-  for (int row = page.FirstRow(); page.IsItemPage() && row <= page.LastRow(); ++row)
-    if (IsBlue(Area(page, row))) return true;
-  return false;
-}
-
 bool HasBlueArea(Page& page) {
   for (const Control& area : page.txt)
     if (IsBlue(area)) return true;
@@ -45,72 +36,48 @@ void ShowMemoryFull() {
   SetEditMenuState();
 }
 
-UndoArea Remember(const Page& page, int area) {
-  UndoArea kept;
-  kept.UndoText = page.txt[area].Text();
-  kept.UndoBold = page.txt[area].GetFont().bold;
-  kept.UndoExempt = area < page.imgNoTax.size() && page.imgNoTax[area].Visible();
-  kept.UndoQtyBox = page.IsRow(area) && page.HasColumns(area);
-  if (kept.UndoQtyBox) {
-    kept.UndoQty = page.txtQty[area].Text();
-    kept.UndoAmt = page.txtAmt[area].Text();
-  }
-  return kept;
-}
-
 void RememberPage(const Page& page) {
-  selection.UndoPage = page.window;
+  selection.UndoPageName = page.form.name;
   selection.undo.clear();
-  for (int area = 0; area <= page.LastText(); ++area) selection.undo.push_back(Remember(page, area));
+  for (int area = 0; area <= page.LastText(); ++area) selection.undo.push_back(ReadArea(page, area));
 }
 
 // A row that the open format fixes stays as it is; it only loses the selection.
 void EmptyArea(Page& page, int area) {
   if (FixedByFormat(page, area)) return PaintArea(page, area, Look::Rest);
-  if (page.IsRow(area)) {
-    WriteRow(page, area, EmptyRow);
-  } else {
-    WriteAmount(page, area, EmptyAmount);
-  }
+  WriteArea(page, area, {});
   PaintArea(page, area, Look::Rest);
 }
 
 // A row that was plain before the delete stays as it is found, so that columns can only reappear.
-void PutBack(Page& page, int area, const UndoArea& kept) {
-  if (page.IsRow(area)) {
-    ClipRow row = ReadRow(page, area);
-    if (kept.UndoQtyBox) {
-      row.ClipQty = kept.UndoQty;
-      row.ClipAmt = kept.UndoAmt;
-    }
-    row.ClipDescText = kept.UndoText;
-    row.ClipDescBold = kept.UndoBold;
-    WriteRow(page, area, row);
-  } else {
-    WriteAmount(page, area, {kept.UndoText, kept.UndoBold, kept.UndoExempt});
+void PutBack(Page& page, int area, TextAreaRecord kept) {
+  const TextAreaRecord found = ReadArea(page, area);
+  if (found.QtyBox && !kept.QtyBox) {
+    kept.QtyBox = true;
+    kept.QtyValue = found.QtyValue;
+    kept.AmtValue = found.AmtValue;
   }
+  WriteArea(page, area, kept);
   PaintArea(page, area, Look::Rest);
 }
 
-bool RowIsTaken(const Page& page, int row) {
-  const ClipRow there = ReadRow(page, row);
-  if (!there.ClipDescText.isEmpty()) return true;
-  if (there.ClipQty == QLatin1String("Hide")) return false;
-  return (!there.ClipQty.isEmpty() && there.ClipQty != QLatin1String("Qty.")) ||
-         (!there.ClipAmt.isEmpty() && there.ClipAmt != QLatin1String("Amt."));
+bool RowIsTaken(const TextAreaRecord& there) {
+  if (!there.Text.isEmpty()) return true;
+  return there.QtyBox && ((!there.QtyValue.isEmpty() && there.QtyValue != QuantityPrompt) ||
+                          (!there.AmtValue.isEmpty() && there.AmtValue != EachPrompt));
 }
 
 bool DestinationIsTaken(Page& page) {
-  for (int row = selection.PasteDesc.first; row <= selection.PasteDesc.last; ++row)
-    if (RowIsTaken(page, row)) return true;
-  for (int area = selection.PasteAmt.first; selection.PasteAmt.IsSet() && area <= selection.PasteAmt.last;
-       ++area)
+  const AreaRange rows = selection.Desc(Destination), amounts = selection.Amt(Destination);
+  for (int row = rows.first; row <= rows.last; ++row)
+    if (RowIsTaken(ReadArea(page, row))) return true;
+  for (int area = amounts.first; amounts.IsSet() && area <= amounts.last; ++area)
     if (!Area(page, area).Text().isEmpty()) return true;
   return false;
 }
 
 bool DestinationIsFixed(const Page& page) {
-  for (const AreaRange& range : {selection.PasteDesc, selection.PasteAmt})
+  for (const AreaRange& range : {selection.Desc(Destination), selection.Amt(Destination)})
     for (int area = range.first; range.IsSet() && area <= range.last; ++area)
       if (FixedByFormat(page, area)) return true;
   return false;
@@ -127,18 +94,18 @@ bool FindDestination(Page& page) {
     return false;
   }
   const int first = editing.CurrentArea;
-  const AreaRange rows{first, first + selection.rows.size() - 1};
+  const AreaRange rows{first, first + selection.ClipDescCount()};
   AreaRange amounts;
   if (selection.AmountsInClip) {
     amounts.first = first + page.AmountOffset();
-    amounts.last = amounts.first + selection.amounts.size() - 1;
+    amounts.last = amounts.first + selection.ClipAmtCount();
   }
   if (rows.last > page.LastRow() || amounts.last > page.LastText()) {
     Tell(QStringLiteral("Cannot paste here. Out of space."));
     return false;
   }
-  selection.PasteDesc = rows;
-  selection.PasteAmt = amounts;
+  selection.SetDesc(Destination, rows);
+  selection.SetAmt(Destination, amounts);
   if (!DestinationIsFixed(page)) return true;
   Tell(QStringLiteral("Cannot paste here."));
   return false;
@@ -155,11 +122,11 @@ bool MayOverwrite(Page& page) {
 }
 
 void WriteMemory(Page& page) {
-  for (int j = 0; j < selection.rows.size(); ++j)
-    WriteRow(page, selection.PasteDesc.first + j, selection.rows[j]);
+  for (int j = 0; j <= selection.ClipDescCount(); ++j)
+    WriteArea(page, selection.SelDescFirst[Destination] + j, selection.rows[j]);
   if (!selection.AmountsInClip) return;
-  for (int j = 0; j < selection.amounts.size(); ++j)
-    WriteAmount(page, selection.PasteAmt.first + j, selection.amounts[j]);
+  for (int j = 0; j <= selection.ClipAmtCount(); ++j)
+    WriteArea(page, selection.SelAmtFirst[Destination] + j, selection.amounts[j]);
 }
 
 void RefireControl(Control& control) {
@@ -179,18 +146,12 @@ void RefireRow(Page& page, int row) {
   RefireControl(page.txtQty[row]);
   RefireControl(page.txtAmt[row]);
   RefireControl(page.txt[row]);
-  KeepStoredForm(page, row);
-}
-
-void RefireAmount(Page& page, int area) {
-  RefireControl(Area(page, area));
-  KeepStoredForm(page, area);
 }
 
 }  // namespace
 
 void CopyCommand() {
-  Page& page = *editing.CurrentForm;
+  Page& page = editing.CurrentForm();
   if (RefusedWithoutRows(page) || ScanSelection(page) == Scan::Nothing) return;
   CopySelectionToMemory(page);
   ShowMemoryFull();
@@ -203,10 +164,9 @@ void CutTextContents(Page& page) {
     CopySelectionToMemory(page);
     {
       Scoped pending(editing.RecalcPending, true);
-      for (int row = selection.SelDesc.first; row <= selection.SelDesc.last; ++row) EmptyArea(page, row);
-      for (int area = selection.SelAmt.first; selection.AmountsInClip && area <= selection.SelAmt.last;
-           ++area)
-        EmptyArea(page, area);
+      const AreaRange rows = selection.Desc(Source), amounts = selection.Amt(Source);
+      for (int row = rows.first; row <= rows.last; ++row) EmptyArea(page, row);
+      for (int area = amounts.first; amounts.IsSet() && area <= amounts.last; ++area) EmptyArea(page, area);
     }
     ShowMemoryFull();
     CalculateMyTotals(page);
@@ -246,13 +206,13 @@ void DeleteTextContents(Page& page) {
 
 void UndoDelete() {
   if (!editing.UndoAvailable) return;
-  Page& target = page(selection.UndoPage);
+  Page& target = *PageNamed(selection.UndoPageName);
   // Rows that were moved on the page in front keep the change handlers still; those of another page would
   // never catch up.
-  if (editing.CurrentForm && &target != editing.CurrentForm) FinishMove(*editing.CurrentForm);
+  if (&target != &editing.CurrentForm()) FinishMove(editing.CurrentForm());
   {
     Scoped pending(editing.RecalcPending, true);
-    for (int i = 0; i < selection.undo.size(); ++i) PutBack(target, static_cast<int>(i), selection.undo[i]);
+    for (int i = 0; i <= selection.UndoCount(); ++i) PutBack(target, i, selection.undo[i]);
   }
   selection.undo.clear();
   editing.UndoAvailable = false;
@@ -265,11 +225,12 @@ void UndoDelete() {
 void RefireChanges(Page& page, Refire what) {
   Scoped pending(editing.RecalcPending, true);
   const bool all = what == Refire::AllRows;
-  const AreaRange rows = all ? AreaRange{page.FirstRow(), page.LastRow()} : selection.PasteDesc;
+  const AreaRange rows = all ? AreaRange{page.FirstRow(), page.LastRow()} : selection.Desc(Destination);
   const AreaRange amounts =
-      all ? AreaRange{page.FirstRow() + page.AmountOffset(), page.LastText()} : selection.PasteAmt;
+      all ? AreaRange{page.FirstRow() + page.AmountOffset(), page.LastText()} : selection.Amt(Destination);
   for (int row = rows.first; rows.IsSet() && row <= rows.last; ++row) RefireRow(page, row);
-  for (int area = amounts.first; amounts.IsSet() && area <= amounts.last; ++area) RefireAmount(page, area);
+  for (int area = amounts.first; amounts.IsSet() && area <= amounts.last; ++area)
+    RefireControl(Area(page, area));
 }
 
 }  // namespace quillane

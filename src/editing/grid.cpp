@@ -54,20 +54,20 @@ void ClearGrid(const Page& page) {
 
 void DrawGridCommand() {
   Guarded("DrawGrid", [] {
-    const Page& front = page(editing.FrontWindow);
+    const Page& front = page(editing.FrontWindow());
     DrawGrid(front);
     upcalls().RedrawPage(front.window);
   });
 }
 
 void ClearGridCommand() {
-  ClearGrid(page(editing.FrontWindow));
+  ClearGrid(page(editing.FrontWindow()));
 }
 
 void AlignFormToSnap() {
   const float snap = layoutAids.SnapValue;
   // A sheet that is not in front comes back with its top at 0, which every snap divides.
-  if (snap <= 0 || editing.FrontWindow != 0) return;
+  if (snap <= 0 || editing.FrontWindow() != 0) return;
   frame().sheetTop = std::trunc(frame().sheetTop / snap) * snap;
   if (frame().sheetMoved) frame().sheetMoved();
 }

@@ -12,11 +12,11 @@ namespace quillane {
 
 namespace {
 
-Array<LabelRecord> before;  // the labels of the page when the window opened
+Array<LabelValues> before;  // the labels of the page when the window opened
 std::vector<int> centred;   // its title and its heading, where they stood in the middle of the sheet
 
 Page& LabelPage() {
-  return *editing.CurrentForm;
+  return editing.CurrentForm();
 }
 
 Control& LabelOf(int index) {
@@ -76,7 +76,7 @@ void TakeTitleFrom(Control& label, const QString& old) {
   const QString title = TitleWithoutCopy(label.Caption());
   label.SetCaption(old);
   KeepCentred(label.Index());
-  SaveTitles({title, proposal.SubTitle});
+  SaveTitles({title, proposal.SubTitleText});
 }
 
 bool IsTitle(int index) {
@@ -85,10 +85,9 @@ bool IsTitle(int index) {
 
 void StoreOne(int index) {
   Control& label = LabelOf(index);
-  const LabelRecord& old = before[index];
+  const LabelValues& old = before[index];
   if (IsTitle(index) && label.Caption() != old.Caption) TakeTitleFrom(label, old.Caption);
-  labelEdit.CurrentLabelRec = ValuesOf(label);
-  StoreLabel(index);
+  StoreLabel(LabelPage(), index);
 }
 
 /// A window that was only looked at leaves no mark on the proposal.
@@ -105,14 +104,13 @@ void PutBack() {
 }  // namespace
 
 void LoadLabelProps() {
-  const LabelRecord& shown = labelEdit.CurrentLabelRec;
+  const LabelValues& shown = labelEdit.CurrentLabelRec;
   labelEdit.LabelCaption = shown.Caption;
   labelEdit.LabelFontSize = shown.FontSize;
   labelEdit.LabelBold = shown.FontBold;
   labelEdit.LabelColor = shown.ForeColor;
   labelEdit.LabelColorMode = labelEdit.LabelDialogCancelled = false;
   ClearFlags();
-  editing.CurrentPage = LabelPage().pageIndex;  // a menu may have brought the window without a press
   before.clear();
   for (const Control& label : LabelPage().lbl) before.push_back(ValuesOf(label));
   FindCentred();
@@ -158,7 +156,8 @@ CaptionWords WordsOfCaption() {
   const int index = labelEdit.CurrentLabel;
   if (IsTitle(index)) return CaptionWords::Title;
   if (LabelPage().window > 0 && index == 0) return CaptionWords::SubTitle;
-  return index == PageNumberLabel(LabelPage()) ? CaptionWords::PageNumber : CaptionWords::Own;
+  return index == shape::PageNumberLabel(LabelPage().pageIndex) ? CaptionWords::PageNumber
+                                                                : CaptionWords::Own;
 }
 
 QString LabelFontLine() {

@@ -11,7 +11,7 @@ namespace quillane {
 /// The captions of cmdSize(0) and on, in points.
 inline constexpr std::array<int, 10> LabelSizes = {8, 9, 10, 11, 12, 14, 16, 18, 20, 24};
 
-/// Begins the dialog with labelEdit.CurrentLabelRec, on editing.CurrentForm.
+/// Begins the dialog with labelEdit.CurrentLabelRec, on the page in use.
 void LoadLabelProps();
 
 // The controls.  In a selection they reach every marked label but the currency signs.

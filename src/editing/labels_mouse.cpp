@@ -44,7 +44,7 @@ void TellPlace(Control& control) {
                      QStringLiteral(", Top = ") + SingleText(control.Top() / sheet::TwipsPerInch));
 }
 
-const LabelRecord& BackupOf(const Page& page, const Control& label) {
+LabelValues& BackupOf(const Page& page, const Control& label) {
   return proposal.LabelBackup[page.pageIndex][label.Index()];
 }
 
@@ -58,7 +58,7 @@ void lbl_DblClick(Control& label) {
   const Page* page = HandsOn(label);
   if (!page) return;
   if (label.BackStyle() == Backing::Transparent) {
-    proposal.LabelBackup[page->pageIndex][label.Index()] = ValuesOf(label);
+    BackupOf(*page, label) = ValuesOf(label);
     Mark(label);
   } else {
     label.SetForeColor(BackupOf(*page, label).ForeColor);
@@ -69,7 +69,6 @@ void lbl_DblClick(Control& label) {
 void lbl_MouseDown(Control& label, MouseButton button, float x, float y) {
   Page* page = HandsOn(label);
   if (!page) return;
-  editing.CurrentForm = page;
   editing.CurrentPage = labelEdit.pressedOn = page->pageIndex;
   labelEdit.CurrentLabel = label.Index();
   LoadCurrentLabel();
@@ -87,11 +86,7 @@ void lbl_MouseUp(Control& label) {
   Page* page = HandsOn(label);
   if (!page) return;
   page->drag.Dragging = false;
-  if (WasDragged(label)) {
-    labelEdit.CurrentLabelRec.Left = label.Left();
-    labelEdit.CurrentLabelRec.Top = label.Top();
-    StoreLabel(label.Index());
-  }
+  if (WasDragged(label)) StoreLabel(*page, label.Index());
   TellPlace(label);
 }
 
@@ -107,10 +102,6 @@ DragStep pic_MouseMove(Control& logo, float x, float y) {
 
 void pic_MouseUp(Control& logo) {
   PageOf(logo)->drag.Dragging = false;
-  if (WasDragged(logo)) {
-    proposal.LogoLeft = logo.Left();
-    proposal.LogoTop = logo.Top();
-  }
   TellPlace(logo);
 }
 

@@ -11,12 +11,6 @@ namespace quillane {
 
 namespace {
 
-bool HasBlueRow(Page& page) {
-  for (int row = page.FirstRow(); page.IsItemPage() && row <= page.LastRow(); ++row)
-    if (IsBlue(Area(page, row))) return true;
-  return false;
-}
-
 // The area that the block's edge would move onto.
 int Beyond(const AreaRange& range, Direction direction) {
   return direction == Direction::Down ? range.last + 1 : range.first - 1;
@@ -36,49 +30,48 @@ QString Refusal(Page& page, Direction direction) {
   const bool down = direction == Direction::Down;
   if (down && selection.BottomRowSelected) return QStringLiteral("Cannot move contents down. Out of space.");
   if (!down && selection.TopRowSelected) return QStringLiteral("Cannot move contents up any higher.");
-  if (AnyIsFixed(page, selection.SelDesc) || (selection.AmountsInClip && AnyIsFixed(page, selection.SelAmt)))
+  if (AnyIsFixed(page, selection.Desc(Source)) ||
+      (selection.AmountsInClip && AnyIsFixed(page, selection.Amt(Source))))
     return QStringLiteral("Cannot move contents. The open format fixes this text.");
   const auto taken = [&](const AreaRange& range) {
     const int area = Beyond(range, direction);
     return range.IsSet() && area >= 0 && area <= page.LastText() &&
            (!Area(page, area).Text().isEmpty() || FixedByFormat(page, area));
   };
-  if (taken(selection.SelDesc) || (selection.AmountsInClip && taken(selection.SelAmt)))
+  if (taken(selection.Desc(Source)) || (selection.AmountsInClip && taken(selection.Amt(Source))))
     return down ? QStringLiteral("Cannot move contents down. Text exists in destination.")
                 : QStringLiteral("Cannot move contents up. Text exists in destination.");
-  if (selection.AmountsInClip && selection.SelDesc.Count() != selection.SelAmt.Count())
+  if (selection.AmountsInClip && selection.Desc(Source).Count() != selection.Amt(Source).Count())
     return QStringLiteral(
         "Cannot move text. The number of right-hand boxes\n"
         "must match the number of left-hand boxes.");
-  const int amountBeyond = Beyond(selection.SelAmt, direction);
+  const int amountBeyond = Beyond(selection.Amt(Source), direction);
   if (selection.AmountsInClip && !page.IsAmount(amountBeyond))
     return down ? QStringLiteral("Cannot move contents down. Out of space.")
                 : QStringLiteral("Cannot move contents up any higher.");
   return {};
 }
 
-void ShiftRange(AreaRange& range, int step) {
-  if (!range.IsSet()) return;
-  range.first += step;
-  range.last += step;
+AreaRange Shifted(const AreaRange& range, int step) {
+  return range.IsSet() ? AreaRange{range.first + step, range.last + step} : range;
 }
 
 void MoveRows(Page& page, int step, int leftBehind) {
-  for (int j = 0; j < selection.rows.size(); ++j) {
-    const int target = selection.SelDesc.first + j + step;
-    WriteRow(page, target, selection.rows[j]);
+  for (int j = 0; j <= selection.ClipDescCount(); ++j) {
+    const int target = selection.SelDescFirst[Source] + j + step;
+    WriteArea(page, target, selection.rows[j]);
     PaintArea(page, target, Look::Selected);
   }
-  WriteRow(page, leftBehind, {{}, false, QStringLiteral("Hide"), {}});
+  WriteArea(page, leftBehind, {});
   PaintArea(page, leftBehind, Look::Rest);
 }
 
 void MoveAmounts(Page& page, int step, int leftBehind) {
-  WriteAmount(page, leftBehind, {});
+  WriteArea(page, leftBehind, {});
   PaintArea(page, leftBehind, Look::Rest);
-  for (int j = 0; j < selection.amounts.size(); ++j) {
-    const int target = selection.SelAmt.first + j + step;
-    WriteAmount(page, target, selection.amounts[j]);
+  for (int j = 0; j <= selection.ClipAmtCount(); ++j) {
+    const int target = selection.SelAmtFirst[Source] + j + step;
+    WriteArea(page, target, selection.amounts[j]);
     PaintArea(page, target, Look::Selected);
   }
 }
@@ -86,11 +79,12 @@ void MoveAmounts(Page& page, int step, int leftBehind) {
 void MoveBlock(Page& page, Direction direction) {
   const int step = direction == Direction::Down ? 1 : -1;
   CopySelectionToMemory(page);
-  MoveRows(page, step, LeftBehind(selection.SelDesc, direction));
-  if (selection.AmountsInClip) MoveAmounts(page, step, LeftBehind(selection.SelAmt, direction));
-  ShiftRange(selection.SelDesc, step);
-  ShiftRange(selection.SelAmt, step);
-  editing.MoveRow = direction == Direction::Down ? selection.SelDesc.last : selection.SelDesc.first;
+  MoveRows(page, step, LeftBehind(selection.Desc(Source), direction));
+  if (selection.AmountsInClip) MoveAmounts(page, step, LeftBehind(selection.Amt(Source), direction));
+  selection.SetDesc(Source, Shifted(selection.Desc(Source), step));
+  selection.SetAmt(Source, Shifted(selection.Amt(Source), step));
+  editing.MoveRow =
+      direction == Direction::Down ? selection.SelDescLast[Source] : selection.SelDescFirst[Source];
 }
 
 // The key whose release ends a move may have written into a field of the first page, which is no row.
@@ -118,7 +112,7 @@ void MoveContents(Page& page, Direction direction) {
 }
 
 void MoveCommand(Direction direction) {
-  Page& page = *editing.CurrentForm;
+  Page& page = editing.CurrentForm();
   MoveContents(page, direction);
   // A refused move has changed nothing, and nothing is to follow it.
   if (!editing.MovingContents) return;

@@ -45,13 +45,9 @@ void ReturnScrollToTop() {
 void TakePage(int window) {
   Page& front = page(window);
   ShowPageButton(window, ButtonFace::InFront);
-  editing.FrontWindow = window;
+  editing.CopyInFront = window == CopyOfPage6;
+  if (!editing.CopyInFront) editing.CurrentPage = window;
   ReAdjustScrollBar(window);
-  if (window != CopyOfPage6) {
-    editing.CurrentForm = &front;
-    editing.CurrentPage = window;
-  }
-  editing.CurrentFormName = front.form.name;
   editing.LastTextIndex = front.LastText();
   editing.LastLabelIndex = front.LastLabel();
   ShowPageControls(front);
@@ -92,7 +88,7 @@ void ReAdjustScrollBar(int window) {
   if (bar.Value > bar.Max) bar.Value = bar.Max;
   ClearGrid(page(window));
   // The sheet in front stands where the bar is; it is at the top whenever a page has just come to the front.
-  if (window == editing.FrontWindow || bar.Value == 0) frame().sheetTop = static_cast<float>(-bar.Value);
+  if (window == editing.FrontWindow() || bar.Value == 0) frame().sheetTop = static_cast<float>(-bar.Value);
   if (frame().sheetMoved) frame().sheetMoved();
 }
 

@@ -53,6 +53,13 @@ AreaRange BlueAmounts(Page& page) {
   return range;
 }
 
+void ForgetRanges() {
+  for (const Side side : {Source, Destination}) {
+    selection.SetDesc(side, {});
+    selection.SetAmt(side, {});
+  }
+}
+
 void RestPage(Page& page) {
   for (int area = 0; area <= page.LastText(); ++area) PaintArea(page, area, Look::Rest);
 }
@@ -73,10 +80,16 @@ void RubberBandSelect(Page& page, const Band& band) {
   SetEditMenuState();
 }
 
+bool HasBlueRow(const Page& page) {
+  for (int row = page.FirstRow(); page.IsItemPage() && row <= page.LastRow(); ++row)
+    if (IsBlue(page.txt[row])) return true;
+  return false;
+}
+
 Scan ScanSelection(Page& page) {
   selection.DescRowFirst = page.window == 5 ? 0 : page.FirstRow();
   selection.DescRowLast = page.window == 5 ? 7 : page.LastRow();
-  selection.SelDesc = selection.SelAmt = selection.PasteDesc = selection.PasteAmt = {};
+  ForgetRanges();
   selection.AmountsInClip = selection.TopRowSelected = selection.BottomRowSelected = false;
   if (!page.IsItemPage()) return Scan::Nothing;
   int first = 0;
@@ -84,36 +97,36 @@ Scan ScanSelection(Page& page) {
   if (first > page.LastText()) return Scan::Nothing;
   if (first > selection.DescRowLast) {
     Tell(QStringLiteral("Cannot select Amount Areas only. Please copy Description Areas also."));
-    DeSelectAllControls(page);
+    DeselectAll(page);
     return Scan::Nothing;
   }
   editing.AreasSelected = true;
-  selection.SelDesc = {first, EndOfRun(page, first, selection.DescRowLast)};
+  selection.SetDesc(Source, {first, EndOfRun(page, first, selection.DescRowLast)});
   SetFocus(Area(page, first));
-  selection.SelAmt = BlueAmounts(page);
-  selection.AmountsInClip = selection.SelAmt.IsSet();
+  selection.SetAmt(Source, BlueAmounts(page));
+  selection.AmountsInClip = selection.Amt(Source).IsSet();
   selection.TopRowSelected = IsBlue(Area(page, selection.DescRowFirst));
   selection.BottomRowSelected = IsBlue(Area(page, selection.DescRowLast));
   return Scan::Rows;
 }
 
 void CopySelectionToMemory(Page& page) {
-  if (!selection.SelDesc.IsSet()) {
+  if (!selection.Desc(Source).IsSet()) {
     Tell(QStringLiteral("Nothing Selected"));
     return;
   }
   selection.rows.clear();
   selection.amounts.clear();
-  for (int row = selection.SelDesc.first; row <= selection.SelDesc.last; ++row)
-    selection.rows.push_back(ReadRow(page, row));
+  for (int row = selection.SelDescFirst[Source]; row <= selection.SelDescLast[Source]; ++row)
+    selection.rows.push_back(ReadArea(page, row));
   if (!selection.AmountsInClip) return;
-  for (int area = selection.SelAmt.first; area <= selection.SelAmt.last; ++area)
-    selection.amounts.push_back(ReadAmount(page, area));
+  for (int area = selection.SelAmtFirst[Source]; area <= selection.SelAmtLast[Source]; ++area)
+    selection.amounts.push_back(ReadArea(page, area));
 }
 
 void ClearSelection() {
   for (int window = 0; window <= CopyOfPage6; ++window) RestPage(page(window));
-  selection.SelDesc = selection.SelAmt = selection.PasteDesc = selection.PasteAmt = {};
+  ForgetRanges();
   selection.rows.clear();
   selection.amounts.clear();
   selection.SelectedCount = 0;
@@ -122,8 +135,8 @@ void ClearSelection() {
   SetSigns(colors::Black, colors::ButtonFace);
 }
 
-void DeSelectAllControls(Page&) {
-  Guarded("DeSelectAllControls", [] {
+void DeselectAll(Page&) {
+  Guarded("DeselectAll", [] {
     ClearSelection();
     SetEditMenuState();
   });

@@ -11,6 +11,8 @@ struct Band {
 
 /// Selects the description and amount areas that lie wholly inside the band, and copies them to the memory.
 void RubberBandSelect(Page& page, const Band& band);
+/// Whether a description row of the page is selected.
+bool HasBlueRow(const Page& page);
 enum class Scan { Rows, Nothing };
 /// Reads the blue runs off the page.  Nothing, after telling the user, when only amounts are selected.
 Scan ScanSelection(Page& page);
@@ -18,7 +20,7 @@ void CopySelectionToMemory(Page& page);
 /// Puts every area of all pages to rest and forgets ranges and memory.
 void ClearSelection();
 /// The command behind cmdClearMem and mnuEditTextDeselect.
-void DeSelectAllControls(Page& page);
+void DeselectAll(Page& page);
 
 void CopyCommand();
 void CutTextContents(Page& page);

@@ -33,23 +33,19 @@ QString InCase(const QString& text, LetterCase to) {
 }
 
 void SetWeight(bool bold) {
-  Page& page = *editing.CurrentForm;
+  Page& page = editing.CurrentForm();
   if (FixedByFormat(page, editing.CurrentArea)) return;
-  page.txt[editing.CurrentArea].SetFontBold(bold);
-  if (proposal.TextRec[page.pageIndex][editing.CurrentArea].FontBold != bold) {
-    for (TextTable* table : {&proposal.TextRec, &format.FormatTextRec}) {
-      (*table)[page.pageIndex][editing.CurrentArea].PropChanged = true;
-      (*table)[page.pageIndex][editing.CurrentArea].FontBold = bold;
-    }
-  }
-  if (page.window == 5) quillane::page(CopyOfPage6).txt[editing.CurrentArea].SetFontBold(bold);
+  Control& area = page.txt[editing.CurrentArea];
+  if (area.GetFont().bold != bold) proposal.AreaMarks[page.pageIndex][area.Index()].PropChanged = true;
+  area.SetFontBold(bold);
+  if (page.window == 5) quillane::page(CopyOfPage6).txt[area.Index()].SetFontBold(bold);
   SetEditMenuState();
 }
 
 }  // namespace
 
 void ChangeCase(LetterCase to) {
-  Control& area = editing.CurrentForm->txt[editing.CurrentArea];
+  Control& area = editing.CurrentForm().txt[editing.CurrentArea];
   if (!AcceptsTyping(area)) return;
   area.SetSelection(editing.SelectedTextStart, editing.SelectedTextLength);
   SetFocus(area);

@@ -17,21 +17,17 @@ namespace {
 
 enum class Exemption { Exempt, Taxable };
 
-/// Writes the exemption into both layers and onto the page.  The page's sums wait for the next calculation.
+/// Writes the exemption onto the page.  The page's sums wait for the next calculation.
 void SetExemption(Page& owner, int area, Exemption exemption) {
-  const bool exempt = exemption == Exemption::Exempt;
-  proposal.TextRec[owner.pageIndex][area].TaxExempt = exempt;
-  proposal.TextRec[owner.pageIndex][area].PropChanged = true;
-  format.FormatTextRec[owner.pageIndex][area].TaxExempt = exempt;
-  proposal.AreaTaxable[owner.pageIndex][area] = exempt ? 0.0F : proposal.AreaAmount[owner.pageIndex][area];
-  owner.imgNoTax[area].SetShown(exempt);
+  owner.imgNoTax[area].SetShown(exemption == Exemption::Exempt);
+  proposal.AreaMarks[owner.pageIndex][area].PropChanged = true;
 }
 
 void ChangeExemptionOfCurrentArea(Exemption exemption) {
-  Page* owner = editing.CurrentForm;
-  if (!owner || !owner->IsAmount(editing.CurrentArea) || FixedByFormat(*owner, editing.CurrentArea)) return;
-  SetExemption(*owner, editing.CurrentArea, exemption);
-  SetFocus(owner->txt[editing.CurrentArea]);
+  Page& owner = editing.CurrentForm();
+  if (!owner.IsAmount(editing.CurrentArea) || FixedByFormat(owner, editing.CurrentArea)) return;
+  SetExemption(owner, editing.CurrentArea, exemption);
+  SetFocus(owner.txt[editing.CurrentArea]);
   MarkTotalsStale();
 }
 
@@ -39,14 +35,11 @@ QString ReportLine(const char* name, float figure) {
   return QString::fromLatin1(name) + FormatNumber(figure, patterns::Report);
 }
 
-/// Empties the figures that the option hides, on the page and in its stored texts.  The model keeps them.
+/// Empties the figures that the option hides.  The model keeps them.
 void EmptyHiddenFigures() {
   const Scoped quiet(editing.OpeningFile, true);
   for (int window : {5, CopyOfPage6})
-    for (int area : {0, 1, 2, 3, 5}) {
-      page(window).txt[area].SetText(QString());
-      proposal.PageText[5][area].clear();
-    }
+    for (int area : {0, 1, 2, 3, 5}) page(window).txt[area].SetText(QString());
 }
 
 void ShowTotals(bool shown) {
@@ -93,7 +86,7 @@ bool CheckTheTotals() {
 
 void TakeFocusedAmount() {
   SettleFocus();
-  if (editing.CurrentForm && editing.CurrentForm->IsItemPage()) FinishMove(*editing.CurrentForm);
+  if (editing.CurrentForm().IsItemPage()) FinishMove(editing.CurrentForm());
 }
 
 void MakeTaxExempt() {

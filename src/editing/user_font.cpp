@@ -3,25 +3,11 @@
 #include "editing/areas.h"
 #include "editing/colours.h"
 #include "model/proposal.h"
-#include "pages/defaults.h"
+#include "pages/fonts.h"
 #include "platform/numbers.h"
 #include "settings/preferences.h"
 
 namespace quillane {
-
-void ApplyUserFont() {
-  const Scoped applying(editing.ApplyingFonts, true);
-  const UserFont& font = proposal.UDP;
-  for (int window = 0; window < ItemPages; ++window) {
-    SetMyFonts(page(window));
-    for (auto* array : {&page(window).lblAt, &page(window).lblEach}) {
-      for (Control& label : *array) {
-        label.SetFont({font.FontName, font.FontSize, false, font.FontItalic, false});
-        label.SetForeColor(font.FontColor);
-      }
-    }
-  }
-}
 
 void GiveUserFontToPages() {
   ApplyUserFont();

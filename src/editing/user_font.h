@@ -7,10 +7,8 @@
 
 namespace quillane {
 
-/// Gives every area and column of pages 1 to 5 the font in proposal.UDP; bold stays with the area.
-void ApplyUserFont();
-/// The same by a person's wish: what has become too wide for its area turns red at once, not when it is next
-/// edited.
+/// Gives pages 1 to 5 the font in proposal.UDP by a person's wish: what has become too wide for its area
+/// turns red at once, not when it is next edited.
 void GiveUserFontToPages();
 /// The font in use becomes the default of new proposals.  False when the preferences could not be written,
 /// which has been told.

@@ -2,50 +2,72 @@
 
 #include <algorithm>
 
-#include "files/property_file.h"
+#include "model/document_lines.h"
 #include "model/proposal.h"
-#include "platform/numbers.h"
+#include "pages/show_document.h"
 
 namespace quillane {
 
 namespace {
 
-constexpr int Deposit = 4;
-
 /// A deposit counts by its value: "1,500.00" and "1500" are the same, and so are 0 and nothing.
-float DepositIn(const PageTexts& texts) {
-  const QString text = texts[5][Deposit].trimmed();
-  return IsNumeric(text) ? ToSingle(text) : 0.0F;
+float DepositIn(const Document& document) {
+  return AmountIn(document.TextRec[shape::Totals][shape::Deposit].Text.trimmed()).value_or(0.0F);
 }
 
-bool SameText(const QString& left, const QString& right) {
-  return QStringView(left).trimmed() == QStringView(right).trimmed();
+bool SameText(const TextAreaRecord& left, const TextAreaRecord& right) {
+  return StoredForm(left).trimmed() == StoredForm(right).trimmed();
+}
+
+// The program writes page numbers anew whenever pages come or go, and that is no change of a label.
+Document WithoutPageNumbers(Document document) {
+  for (int p = 0; p < IndexedPages; ++p)
+    for (const int label : {0, shape::PageNumberLabel(p)}) {
+      if (p == 0 && label == 0) continue;
+      QString& caption = document.LabelRec[p][label].Caption;
+      if (const qsizetype number = caption.lastIndexOf(QLatin1String("Page ")); number >= 0)
+        caption.truncate(number);
+    }
+  return document;
 }
 
 bool AnyAreaMarked() {
-  return std::any_of(proposal.TextRec.begin(), proposal.TextRec.begin() + ItemPages, [](const auto& areas) {
-    return std::ranges::any_of(
-        areas, [](const TextAreaRecord& record) { return record.PropChanged || record.QtyWritten; });
-  });
+  for (int p = 0; p < ItemPages; ++p)
+    for (const AreaMark& mark : proposal.AreaMarks[p])
+      if (mark.PropChanged || mark.QtyWritten) return true;
+  return false;
 }
 
 bool AnyLabelMarked() {
-  return std::ranges::any_of(proposal.LabelRec, [](const auto& labels) {
-    return std::ranges::any_of(labels,
-                               [](const LabelRecord& record) { return record.Changed && !record.Written; });
+  return std::ranges::any_of(proposal.LabelMarks, [](const auto& labels) {
+    return std::ranges::any_of(labels, [](const LabelMark& mark) { return mark.Changed && !mark.Written; });
   });
+}
+
+bool TextDiffers(const Document& now) {
+  for (int p = 0; p < ItemPages; ++p)
+    if (!std::ranges::equal(now.TextRec[p], proposal.Saved.TextRec[p], SameText)) return true;
+  return DepositIn(now) != DepositIn(proposal.Saved);
+}
+
+bool PropertiesDiffer(const Document& now) {
+  return AnyAreaMarked() || AnyLabelMarked() ||
+         PropertyLinesOf(WithoutPageNumbers(now)) != PropertyLinesOf(WithoutPageNumbers(proposal.Saved));
 }
 
 }  // namespace
 
 bool TextHasChanged() {
-  for (int p = 0; p < ItemPages; ++p)
-    if (!std::ranges::equal(proposal.PageText[p], proposal.SavedText[p], SameText)) return true;
-  return DepositIn(proposal.PageText) != DepositIn(proposal.SavedText);
+  return TextDiffers(ReadPages());
 }
 
 bool PropertiesHaveChanged() {
-  return AnyAreaMarked() || AnyLabelMarked() || PropertyLinesNow() != proposal.SavedPropertyLines;
+  return PropertiesDiffer(ReadPages());
+}
+
+bool ProposalHasChanged() {
+  const Document now = ReadPages();
+  return TextDiffers(now) || PropertiesDiffer(now);
 }
 
 }  // namespace quillane

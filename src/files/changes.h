@@ -6,8 +6,6 @@ namespace quillane {
 bool TextHasChanged();
 bool PropertiesHaveChanged();
 /// Text or properties differ from what was last saved or read.
-inline bool ProposalHasChanged() {
-  return TextHasChanged() || PropertiesHaveChanged();
-}
+bool ProposalHasChanged();
 
 }  // namespace quillane

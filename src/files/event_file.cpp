@@ -8,10 +8,12 @@
 #include "editing/totals_commands.h"
 #include "files/changes.h"
 #include "files/property_file.h"
+#include "model/document_lines.h"
+#include "model/event_bytes.h"
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/report.h"
-#include "pages/features.h"
+#include "pages/show_document.h"
 #include "pages/titles.h"
 #include "platform/codepage.h"
 #include "platform/dates.h"
@@ -27,47 +29,39 @@ const QString PropertyFile = QStringLiteral(".wpf");
 const QString DepositFile = QStringLiteral(".dep");
 const QString FootnoteFile = QStringLiteral(".wxt");
 
-enum class Properties { WhenChanged, Always };
+enum class PropertiesDue { WhenChanged, Always };
 
 bool ClientNameChanged() {
-  return proposal.PageText[0][2].trimmed() != proposal.SavedText[0][2].trimmed();
+  return PageText(0, shape::ClientName).trimmed() != SavedText(0, shape::ClientName).trimmed();
 }
 
 // A proposal that takes a name for the first time must not inherit the properties of a file that it replaces.
-bool PropertiesAreDue(Properties when, const QString& baseName) {
-  if (when == Properties::Always || PropertiesHaveChanged()) return true;
+bool PropertiesChanged(PropertiesDue when, const QString& baseName) {
+  if (when == PropertiesDue::Always || PropertiesHaveChanged()) return true;
   if (proposal.FileIsNamed) return false;
   // What a format has given a new proposal must outlive the format.
   return format.FormatIsOpen || FileExists(PropertyFolder(), baseName + PropertyFile);
 }
 
 // False when the property file was due and could not be written; the proposal is not saved then.
-bool WriteFiles(const QString& fileName, Properties when) {
+bool WriteFiles(const QString& fileName, PropertiesDue when) {
   const QString baseName = fileName.chopped(FieldFile.size());
   SaveTextBoxFeatures();
   FindHighestPage();
   UpdatePageNumbers();
   UpdateEventNameLabels();
-  const bool propertiesToo = PropertiesAreDue(when, baseName);
+  const bool propertiesToo = PropertiesChanged(when, baseName);
+  const Document document = ReadPages();
   std::vector<Replacement> written;
-  written.emplace_back(proposal.CurrentFolder + fileName, EventFileBytes());
-  proposal.PropertyLines = PropertyLinesNow();
-  const bool whole = !propertiesToo || SavePropertyFile(baseName, written);
+  written.emplace_back(proposal.CurrentFolder + fileName, EventFileBytes(document));
+  const bool whole = !propertiesToo || SavePropertyFile(baseName, PropertyLinesOf(document), written);
   Replacement::Keep(written);
-  if (whole && propertiesToo) MarkPropertiesSaved();
   return whole;
-}
-
-void TakeName(const QString& baseName) {
-  proposal.BaseName = baseName;
-  proposal.EventFileName = baseName + FieldFile;
-  proposal.TextFileName = baseName + QStringLiteral(".txt");
 }
 
 void MarkSaved() {
   AssignPropChanges();
-  proposal.SavedPropertyLines = PropertyLinesNow();
-  proposal.SavedText = proposal.PageText;
+  proposal.Saved = ReadPages();
   proposal.FileIsNamed = true;
   format.FormatSessionActive = false;
   EnableMenu("mnuFileDelete", true);
@@ -93,7 +87,7 @@ bool SaveUnderItsName() {
     return false;
   }
   if (!MayReplaceDuplicate()) return false;
-  if (!WriteFiles(proposal.EventFileName, Properties::WhenChanged)) return false;
+  if (!WriteFiles(proposal.EventFileName, PropertiesDue::WhenChanged)) return false;
   MarkSaved();
   return true;
 }
@@ -125,8 +119,8 @@ bool SaveUnderNewName(const QString& baseName) {
   bool saved = false;
   Guarded("SaveEventFile", [&] {
     CheckTheTotals();
-    if (!WriteFiles(baseName + FieldFile, Properties::Always)) return;
-    TakeName(baseName);
+    if (!WriteFiles(baseName + FieldFile, PropertiesDue::Always)) return;
+    NameProposal(baseName);
     MarkSaved();
     saved = true;
   });
@@ -136,23 +130,23 @@ bool SaveUnderNewName(const QString& baseName) {
   return true;
 }
 
-// The fields as the pages show them, since the tables are brought up to date by a save only.
-QByteArray BytesAsTheyStand() {
-  PageTexts texts = proposal.PageText;
-  for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i) texts[p][i] = StoredForm(page(p), i);
-  return EventFileBytes(texts, [](int p, int i) { return !page(p).imgNoTax[i].Hidden(); });
-}
-
 // While an unnamed proposal's name is being typed every twentieth key would leave a file of half a name.
 bool BackupIsDue() {
   if (proposal.EventFileName.size() <= FieldFile.size() || HasForbiddenCharacter(proposal.EventFileName))
     return false;
-  if (!proposal.FileIsNamed && editing.Focus == &page(0).txt[2]) return false;
+  if (!proposal.FileIsNamed && editing.Focus == &page(0).txt[shape::ClientName]) return false;
   return !proposal.OpenedFromBackup;
 }
 
 }  // namespace
+
+void SaveTextBoxFeatures() {
+  Guarded("SaveTextBoxFeatures", [] {
+    for (int p = 0; p < ItemPages; ++p)
+      for (int row = page(p).FirstRow(); row <= page(p).LastRow(); ++row)
+        proposal.AreaMarks[p][row].QtyWritten = page(p).HasColumns(row);
+  });
+}
 
 bool SaveEventFile() {
   bool saved = false;
@@ -166,10 +160,10 @@ bool SaveEventFileAs() {
     if (TotalsAreStale()) RecalculateTotals(0);
     const QString answer = desk().InputBox(QStringLiteral("Please input the File Name below."),
                                            QStringLiteral("Saving File As..."), QString());
-    const QString baseName = FoldToCodePage(answer).trimmed();
-    if (baseName.isEmpty()) return Tell(QStringLiteral("No name entered. File not saved."));
+    const QString NewFileName = FoldToCodePage(answer).trimmed();
+    if (NewFileName.isEmpty()) return Tell(QStringLiteral("No name entered. File not saved."));
     proposal.SavingAs = true;
-    if (!IllegalFileName(baseName)) saved = SaveUnderNewName(baseName);
+    if (!IllegalFileName(NewFileName)) saved = SaveUnderNewName(NewFileName);
   });
   return saved;
 }
@@ -231,7 +225,7 @@ void BackupThisFile() {
   if (!BackupIsDue()) return;
   Guarded("BackupThisFile", [] {
     const Scoped backup(proposal.BackupInProgress, true);
-    ReplaceFile(prefs.BackupFolder + proposal.EventFileName, BytesAsTheyStand());
+    ReplaceFile(prefs.BackupFolder + proposal.EventFileName, EventFileBytes(ReadPages()));
   });
 }
 

@@ -4,12 +4,11 @@
 #include "files/format_file.h"
 #include "files/new_proposal.h"
 #include "files/property_file.h"
+#include "model/event_bytes.h"
 #include "model/frame.h"
 #include "model/report.h"
-#include "pages/defaults.h"
-#include "pages/features.h"
+#include "pages/show_document.h"
 #include "pages/titles.h"
-#include "pages/totals.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "ui/desk.h"
@@ -18,125 +17,57 @@ namespace quillane {
 
 namespace {
 
-constexpr QChar ExemptSign(0xD8);
-constexpr int DepositArea = 4;
-
-// Blanks only: a stored text may begin or end with any other character, a hard blank included.
-QString WithoutTrailingBlanks(QString text) {
-  while (text.endsWith(QLatin1Char(' '))) text.chop(1);
-  return text;
-}
-
-QString WithoutBlanks(const QString& text) {
-  QString trimmed = WithoutTrailingBlanks(text);
-  qsizetype first = 0;
-  while (first < trimmed.size() && trimmed[first] == QLatin1Char(' ')) ++first;
-  return trimmed.mid(first);
-}
-
-// The value of a stored amount; nothing for words, and for a figure that no amount can hold.
-std::optional<float> ValueOf(const QString& text) {
-  if (!IsNumeric(text)) return std::nullopt;
-  try {
-    return ToSingle(text);
-  } catch (const RuntimeError&) {
-    return std::nullopt;
+// An area whose field is blank leaves what a format has put there, and so does a text that the format fixes;
+// an amount and its tax are the proposal's own all the same.
+void TakeArea(TextAreaRecord& shown, const TextAreaRecord& filed, bool fixed, bool amount) {
+  if (filed.Text.isEmpty() && !filed.QtyBox) return;
+  if (!fixed || (amount && filed.TaxExempt)) {
+    shown.Text = filed.Text;
+    // A format may have given the row columns; the proposal's own text says whether it has any.
+    shown.QtyBox = filed.QtyBox;
+    shown.QtyValue = filed.QtyValue;
+    shown.AmtValue = filed.AmtValue;
   }
+  if (!amount) return;
+  shown.TaxExempt = filed.TaxExempt;
+  shown.AreaAmount = filed.AreaAmount;
 }
 
-void FillColumns(Page& target, int row, const ColumnTexts& parts) {
-  LoadColumns(target);
-  ShowRowColumns(target, row, true);
-  target.txtQty[row].SetText(parts.quantity);
-  target.txtAmt[row].SetText(parts.each);
-  target.txt[row].SetText(parts.description);
-  TextAreaRecord& record = proposal.TextRec[target.pageIndex][row];
-  record.QtyBox = true;
-  record.QtyValue = parts.quantity;
-  record.AmtValue = parts.each;
-}
-
-void FillText(Page& target, int area, const QString& field) {
-  if (format.FormatTextRec[target.pageIndex][area].HasFormatText) return;  // the format's text stays
-  const QString text = WithoutTrailingBlanks(field);
-  proposal.PageText[target.pageIndex][area] = proposal.SavedText[target.pageIndex][area] = text;
-  const std::optional<ColumnTexts> parts = target.IsRow(area) ? SplitColumns(text) : std::nullopt;
-  if (parts) return FillColumns(target, area, *parts);
-  if (text.isEmpty()) return;
-  // A format may have given the row columns; the proposal's own text says that it has none.
-  if (target.IsRow(area) && target.HasColumns(area)) ShowRowColumns(target, area, false);
-  target.txt[area].SetText(text);
-}
-
-void FillAmount(Page& target, int area, const QString& field) {
-  QString text = WithoutBlanks(field);
-  if (text.isEmpty()) return;
-  const bool exempt = text.startsWith(ExemptSign);
-  if (exempt) {
-    text = WithoutBlanks(text.mid(1));
-    proposal.PageText[target.pageIndex][area] = proposal.SavedText[target.pageIndex][area] = text;
-    target.txt[area].SetText(text);
-  }
-  // Also where a format has set the mark: the amount and its tax are the proposal's own.
-  proposal.TextRec[target.pageIndex][area].TaxExempt = exempt;
-  target.imgNoTax[area].SetShown(exempt);
-  const std::optional<float> value = ValueOf(text);
-  if (!value) return;
-  proposal.AreaAmount[target.pageIndex][area] = *value;
-  proposal.AreaTaxable[target.pageIndex][area] = exempt ? 0 : *value;
-  target.CurrencyLabel(area).SetShown(true);
-}
-
-void FillItemPage(Page& target, const Array<QString>& fields) {
-  for (int i = 0; i < fields.size(); ++i) {
-    const QString& field = fields[i];
-    FillText(target, i, field);
-    if (target.IsAmount(i)) FillAmount(target, i, field);
-  }
+void TakeAreas(Document& document, const Document& filed) {
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreaCount(p); ++i)
+      TakeArea(document.TextRec[p][i], filed.TextRec[p][i], format.FormatTextRec[p][i].HasFormatText,
+               shape::IsAmount(p, i));
 }
 
 // Nothing is taken from the totals page but the deposit; the other five are worked out anew.
-void TakeDeposit(const Array<QString>& fields) {
-  for (int i = 0; i < fields.size(); ++i)
-    proposal.PageText[5][i] = proposal.SavedText[5][i] = WithoutBlanks(fields[i]);
-  const QString& deposit = proposal.PageText[5][DepositArea];
-  const std::optional<float> value = deposit.isEmpty() ? 0.0F : ValueOf(deposit);
-  if (!value)
+void TakeDeposit(Document& document, const Document& filed) {
+  const QString& text = filed.TextRec[shape::Totals][shape::Deposit].Text;
+  if (!text.isEmpty() && !AmountIn(text))
     Tell(
         QStringLiteral("Deposit is not numeric. Zero will be entered. Please\n"
                        "double-check the Deposit amount from previous records."));
-  proposal.DepositReceived = value.value_or(0.0F);
+  document.DepositReceived = filed.DepositReceived;
+  document.TextRec[shape::Totals][shape::Deposit].Text = FormatNumber(filed.DepositReceived, patterns::Money);
 }
 
-// Sums that no figure can hold are reported and cost the totals only; the texts are there.
-void ShowTotals() {
-  Guarded("CalculateMyTotals", CalculateAllPages);
-  page(5).txt[DepositArea].SetText(FormatNumber(proposal.DepositReceived, patterns::Money));
-  RecalculateTotals(0);
-  for (int i = 0; i < page(5).txt.size(); ++i) {
-    const QString& text = page(5).txt[i].Text();
-    page(CopyOfPage6).txt[i].SetText(text);
-    proposal.PageText[5][i] = proposal.SavedText[5][i] = text;
-  }
-}
-
-void FillPages(const EventFields& fields) {
-  const Scoped opening(editing.OpeningFile, true);
-  for (int p = 0; p < ItemPages; ++p) FillItemPage(page(p), fields.text[p]);
-  TakeDeposit(fields.text[5]);
-  ShowTotals();
+void FillPages(const Document& filed) {
+  Document document = ReadPages();
+  TakeAreas(document, filed);
+  TakeDeposit(document, filed);
+  PutOnPages(document);
+  ShowFollowingSums();
 }
 
 void TakeFileNames(const QString& folder, const QString& name) {
   proposal.CurrentFolder = folder;
   proposal.OpenedFromBackup = SameFolder(folder, prefs.BackupFolder);
   proposal.FileIsNamed = true;
+  NameProposal(name.chopped(4));
   proposal.EventFileName = name;
-  proposal.BaseName = name.chopped(4);
-  proposal.TextFileName = proposal.BaseName + QStringLiteral(".txt");
   proposal.FootnoteFileName = proposal.BaseName + QStringLiteral(".wxt");
   proposal.DepositFileName = proposal.BaseName + QStringLiteral(".dep");
-  proposal.Title = QStringLiteral("Proposal for ") + proposal.BaseName;
+  proposal.Title = TitleFor(proposal.BaseName);
   proposal.TitleByHand = false;
 }
 
@@ -148,38 +79,29 @@ void ShowFileNames() {
   UpdateEventNameLabels();
 }
 
-// Whatever a file, its properties or a format have put on the pages, what would be stored is what they show.
-void TakeStoredForms() {
-  for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i) {
-      QString& stored = proposal.PageText[p][i];
-      stored = proposal.SavedText[p][i] = StoredForm(page(p), i);
-    }
-}
-
-bool OpenInto(const QString& folder, const QString& name) {
-  const EventFields fields = ReadEventFields(ReadWholeFile(folder + name));
+bool OpenInto(const QString& path, Properties properties) {
+  const Document filed = ReadEventFile(ReadWholeFile(path));
   if (!StartNewFile()) return false;
-  TakeFileNames(folder, name);
-  FillPages(fields);
+  const qsizetype nameStart = path.lastIndexOf(QLatin1Char('/')) + 1;
+  TakeFileNames(path.left(nameStart), path.mid(nameStart));
+  FillPages(filed);
   ShowFileNames();
-  if (!fileDialog.IgnoreProperties) ReadFileProperties();
-  TakeStoredForms();
-  proposal.SavedPropertyLines = PropertyLinesNow();
-  format.FormatLines = FormatLinesNow();
+  if (properties == Properties::Read) ReadFileProperties(filed);
   FindHighestPage();
   UpdatePageNumbers();
+  proposal.Saved = ReadPages();
+  format.FormatLines = FormatLinesNow();
   UpdatePageButtons(0);
   return true;
 }
 
 }  // namespace
 
-bool OpenEventFile() {
+bool OpenEventFile(const QString& path, Properties properties) {
   bool opened = false;
   Guarded("OpenEventFile", [&] {
     desk().ServeEvents();
-    opened = OpenInto(WithSeparator(fileDialog.Folder), fileDialog.SelectedFileName);
+    opened = OpenInto(path, properties);
   });
   return opened;
 }

@@ -7,7 +7,6 @@
 #include "editing/totals_commands.h"
 #include "files/event_file.h"
 #include "model/report.h"
-#include "pages/features.h"
 #include "pages/titles.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
@@ -27,7 +26,6 @@ bool HasTextFileName() {
 }
 
 void BringReportUpToDate() {
-  SyncQtyFlags();
   CheckTheTotals();
   FindHighestPage();
   UpdatePageNumbers();

@@ -185,7 +185,8 @@ void FileDialog::DeletePicked() {
 void FileDialog::OpenPicked() {
   const QString& filter = fileDialog.FileFilter;
   if (filter == EventFilter)
-    OpenEventFile();
+    OpenEventFile(folder + openFileName,
+                  fileDialog.IgnoreProperties ? Properties::Ignored : Properties::Read);
   else if (filter == QLatin1String("*.txt"))
     ReadTextFile(folder + openFileName);
   else if (filter == QLatin1String("*.wft"))

@@ -4,12 +4,12 @@
 #include "editing/totals_commands.h"
 #include "files/changes.h"
 #include "files/event_file.h"
-#include "files/property_apply.h"
 #include "files/property_file.h"
+#include "model/document_lines.h"
 #include "model/frame.h"
+#include "model/property_lines.h"
 #include "model/report.h"
-#include "pages/features.h"
-#include "pages/labels.h"
+#include "pages/show_document.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "settings/preferences.h"
@@ -21,55 +21,15 @@ namespace {
 
 const QString Extension = QStringLiteral(".wft");
 
-TextAreaRecord& FormatTextOf(int p, int i) {
-  return format.FormatTextRec[p][i];
-}
-LabelRecord& FormatLabelOf(int p, int n) {
-  return format.FormatLabelRec[p][n];
-}
-
-// An amount belongs to one proposal, so it is never part of a format.
-QString FixedText(const Control& area) {
-  return IsNumericArea(area) ? QString() : area.Text();
-}
-
-// A label that the proposal's own property file has changed looks changed on the page, and a format made from
-// that page has to look the same.
-bool LabelCounts(int p, int n) {
-  return FormatLabelOf(p, n).Changed || proposal.LabelRec[p][n].Changed;
-}
-
-void AddTexts(QStringList& lines) {
-  for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i) {
-      const Control& area = page(p).txt[i];
-      const QString text = FixedText(area);
-      if (area.GetFont().bold) lines << BoldLine(p, i);
-      if (!text.isEmpty()) lines << TextLine(p, i, text);
-      if (!page(p).imgNoTax[i].Hidden()) lines << ExemptLine(p, i);
-    }
-}
-
-void AddColumns(QStringList& lines) {
-  for (int p = 0; p < ItemPages; ++p)
-    for (int row = page(p).FirstRow(); row <= page(p).LastRow(); ++row) {
-      if (page(p).HasColumns(row))
-        lines << ColumnsLine(p, row, page(p).txtQty[row].Text(), page(p).txtAmt[row].Text());
-    }
-}
-
-void AddLabels(QStringList& lines) {
-  for (int p = 0; p < IndexedPages; ++p)
-    for (const Control& label : page(p).lbl)
-      if (LabelCounts(p, label.Index())) lines << LabelLine(p, label.Index(), ValuesOf(label));
-}
-
 // The format's logo stands where the page shows it; one that could not be read keeps the place it had.
-void AddLogo(QStringList& lines) {
-  if (format.LogoPath.isEmpty()) return;
+LogoRecord LogoOfFormat() {
   const Control& logo = page(0).pic[0];
-  lines << (format.LogoChanged ? LogoLine(format.LogoPath, logo.Left(), logo.Top())
-                               : LogoLine(format.LogoPath, format.LogoLeft, format.LogoTop));
+  if (format.LogoChanged) return {format.LogoPath, logo.Left(), logo.Top()};
+  return {format.LogoPath, format.LogoLeft, format.LogoTop};
+}
+
+QStringList LinesOf(const Document& document) {
+  return FormatLinesOf(document, format.FormatLabelRec, LogoOfFormat());
 }
 
 // The whole answer, blanks and an extension that was typed along taken off.
@@ -99,23 +59,6 @@ QString ChooseName() {
   return {};
 }
 
-void TakeFormatTexts() {
-  for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i) FormatTextOf(p, i).Text = FixedText(page(p).txt[i]);
-}
-
-bool HoldsAnything() {
-  for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i) {
-      const TextAreaRecord& record = FormatTextOf(p, i);
-      if (record.FontBold || record.QtyWritten || !FixedText(page(p).txt[i]).isEmpty()) return true;
-    }
-  for (int p = 0; p < IndexedPages; ++p)
-    for (const Control& label : page(p).lbl)
-      if (LabelCounts(p, label.Index())) return true;
-  return false;
-}
-
 void ShowFormatName() {
   frame().form.caption = QStringLiteral("Quillane - Format File = ") + format.FormatName;
   // The frame's window looks at its caption when the title's label has changed.
@@ -133,13 +76,14 @@ void MarkHeldBySavedFormat(Work work) {
     if (work == Work::Saved) AssignPropChanges();
     return;
   }
+  // The amounts alone stay as they were saved.
+  Document held = ReadPages();
   for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i) {
-      if (IsNumericArea(page(p).txt[i])) continue;
-      proposal.SavedText[p][i] = proposal.PageText[p][i];
-    }
+    for (int i = 0; i < AreaCount(p); ++i)
+      if (shape::IsNumeric(p, i)) held.TextRec[p][i].Text = proposal.Saved.TextRec[p][i].Text;
+  held.TextRec[shape::Totals] = proposal.Saved.TextRec[shape::Totals];
+  proposal.Saved = held;
   AssignPropChanges();
-  proposal.SavedPropertyLines = PropertyLinesNow();
 }
 
 bool StoreAsDefault() {
@@ -159,7 +103,6 @@ bool SaveUnder(const QString& name) {
   // The marks and lines follow the file: what could not be written still counts as unsaved.
   ReplaceFile(format.FormatFolder + name + Extension, BytesOfLines(FormatLinesNow()));
   AssignFormatPropChanges();
-  CopyLabelsToRecords();
   format.FormatName = name + Extension;
   const bool stored = !format.FormatAsDefault || StoreAsDefault();
   format.FormatIsOpen = true;
@@ -171,35 +114,28 @@ bool SaveUnder(const QString& name) {
 }  // namespace
 
 QStringList FormatLinesNow() {
-  QStringList lines;
-  AddTexts(lines);
-  AddColumns(lines);
-  AddLabels(lines);
-  AddLogo(lines);
-  const UserFont& font = proposal.UDP;
-  if (!font.FontName.isEmpty() && font.FontSize != 0) lines << UserFontLine(font);
-  return lines;
+  return LinesOf(ReadPages());
 }
 
 void AssignFormatPropChanges() {
   Guarded("AssignFormatPropChanges", [] {
-    TakeFormatTexts();
-    format.FormatLines = FormatLinesNow();
-    for (auto& areas : format.FormatTextRec)
-      for (TextAreaRecord& record : areas) record.QtyWritten = false;
+    const Document document = ReadPages();
     for (int p = 0; p < IndexedPages; ++p)
-      for (const Control& label : page(p).lbl)
-        if (LabelCounts(p, label.Index()))
-          FormatLabelOf(p, label.Index()).Changed = FormatLabelOf(p, label.Index()).Written = true;
+      for (int n = 0; n < shape::LabelCount(p); ++n)
+        if (document.LabelRec[p][n].Changed) format.FormatLabelRec[p][n].Changed = true;
+    format.FormatLines = LinesOf(document);
   });
 }
 
 bool FormatChanged() {
   if (format.LogoChanged) return true;
-  for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreasPerPage; ++i)
-      format.FormatTextRec[p][i].FontBold = proposal.TextRec[p][i].FontBold;
-  return HoldsAnything() || FormatLinesNow() != format.FormatLines;
+  // The logo and the font alone are no format that is worth a file; a difference from what was read is.
+  const Document document = ReadPages();
+  Document look = document;
+  look.UDP.FontName.clear();
+  for (auto& areas : look.TextRec)
+    for (TextAreaRecord& area : areas) area.TaxExempt = false;
+  return !FormatLinesOf(look, format.FormatLabelRec, {}).isEmpty() || LinesOf(document) != format.FormatLines;
 }
 
 bool SaveFileFormat() {

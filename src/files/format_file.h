@@ -5,7 +5,7 @@
 
 namespace quillane {
 
-/// Brings the format's tables up to date with the pages and builds format.FormatLines from them.
+/// Takes what a save of the format has written: its lines, and each label that they hold.
 void AssignFormatPropChanges();
 /// The lines that a save of the format would write, read from the pages as they stand, without touching a
 /// mark.
@@ -20,8 +20,6 @@ bool SaveFileFormat();
 void OpenFormatFile();
 /// Applies format.FormatLines up to the first malformed line, which is reported.
 void ParseFormatFile();
-/// Bold boxes of pages 1 to 5 as the format has them.
-void ApplyFormatBold();
 
 /// Leaves no format open: its tables, its lines and its logo are empty.  What is on the pages stays.
 void ForgetFormat();

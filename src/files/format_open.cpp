@@ -2,12 +2,11 @@
 #include "files/event_file.h"
 #include "files/format_file.h"
 #include "files/new_proposal.h"
-#include "files/property_apply.h"
-#include "files/property_file.h"
+#include "model/document_lines.h"
 #include "model/frame.h"
+#include "model/property_lines.h"
 #include "model/report.h"
-#include "pages/defaults.h"
-#include "pages/features.h"
+#include "pages/show_document.h"
 #include "pages/titles.h"
 #include "platform/files.h"
 #include "ui/desk.h"
@@ -15,76 +14,6 @@
 namespace quillane {
 
 namespace {
-
-constexpr int TitleLabel = 45;
-const QString ClientTitle = QStringLiteral("Proposal for ");
-
-// One area or row in both tables, since the page now shows what the format says.
-template <class Change>
-void InBothTables(const Page& target, int area, Change&& change) {
-  change(proposal.TextRec[target.pageIndex][area]);
-  change(format.FormatTextRec[target.pageIndex][area]);
-}
-
-void ApplyFixedText(Page& target, Control& area, const QString& text) {
-  area.SetText(text);
-  TextAreaRecord& record = format.FormatTextRec[target.pageIndex][area.Index()];
-  record.Text = text;
-  record.HasFormatText = !editing.DoNotLockFormat;
-}
-
-void ApplyExemption(Page& target, int area, bool exempt) {
-  if (!exempt) return;
-  ControlOfLine(target.imgNoTax, area).SetShown(true);
-  InBothTables(target, area, [](TextAreaRecord& record) { record.TaxExempt = true; });
-}
-
-void ApplyText(Page& target, const PropertyLine& line) {
-  Control& area = ControlOfLine(target.txt, line.index);
-  if (line.Has("FontBold")) {
-    const bool bold = line.Flag("FontBold");
-    area.SetFontBold(bold);
-    InBothTables(target, line.index, [bold](TextAreaRecord& record) {
-      record.FontBold = bold;
-      record.PropChanged = false;
-    });
-  }
-  if (line.Has("Text")) ApplyFixedText(target, area, line.Text("Text"));
-  if (line.Has("TaxExempt")) ApplyExemption(target, line.index, line.Flag("TaxExempt"));
-}
-
-void ApplyColumns(Page& target, const PropertyLine& line) {
-  Control& quantity = ControlOfLine(target.txtQty, line.index);
-  Control& each = ControlOfLine(target.txtAmt, line.index);
-  const bool columns = line.Flag("QtyBox");
-  if (!target.IsRow(line.index)) return;
-  LoadColumns(target);
-  ShowRowColumns(target, line.index, columns);
-  if (line.Has("QtyValue")) quantity.SetText(line.Text("QtyValue"));
-  if (line.Has("AmtValue")) each.SetText(line.Text("AmtValue"));
-  if (columns) ShowColumnPrompts(target, line.index);
-  InBothTables(target, line.index, [&](TextAreaRecord& record) {
-    record.QtyBox = columns;
-    record.QtyValue = quantity.Text();
-    record.AmtValue = each.Text();
-    record.PropChanged = false;
-  });
-}
-
-// A client's name in a title is one proposal's; other words were made by hand and belong to the format.
-void TakeTitle(const QString& caption) {
-  if (caption.isEmpty() || caption.startsWith(ClientTitle)) return;
-  proposal.Title = caption;
-  proposal.TitleByHand = true;
-}
-
-void ApplyLabel(Page& target, const PropertyLine& line) {
-  LabelRecord record = ApplyLabelLine(target, line);
-  proposal.LabelBackup[target.pageIndex][line.index] = record;
-  record.Changed = record.Written = true;
-  format.FormatLabelRec[target.pageIndex][line.index] = record;
-  if (target.pageIndex == 0 && line.index == TitleLabel) TakeTitle(record.Caption);
-}
 
 QString LogoPathFrom(const QString& stored) {
   const QString path = stored.trimmed();
@@ -94,10 +23,10 @@ QString LogoPathFrom(const QString& stored) {
 
 // A logo that cannot be read is told, and costs the logo alone; its line stays with the format, since the
 // shared folder in which it lies may be back tomorrow.
-void ApplyLogo(const PropertyLine& line) {
-  format.LogoLeft = line.Place("Left");
-  format.LogoTop = line.Place("Top");
-  format.LogoPath = LogoPathFrom(line.Text("Picture"));
+void ApplyLogo(const LogoRecord& stored) {
+  format.LogoLeft = stored.LogoLeft;
+  format.LogoTop = stored.LogoTop;
+  format.LogoPath = LogoPathFrom(stored.LogoPath);
   format.LogoChanged = false;
   Guarded("ParseFormatFile", [] {
     Control& logo = page(0).pic[0];
@@ -106,24 +35,6 @@ void ApplyLogo(const PropertyLine& line) {
     logo.SetTop(format.LogoTop);
     format.LogoChanged = true;
   });
-}
-
-void ApplyLine(Page& target, const PropertyLine& line) {
-  if (target.window == 0) LoadColumns(target);
-  switch (line.word) {
-    case LineWord::Text:
-      return ApplyText(target, line);
-    case LineWord::Columns:
-      return ApplyColumns(target, line);
-    case LineWord::Label:
-      return ApplyLabel(target, line);
-    case LineWord::Logo:
-      return ApplyLogo(line);
-    case LineWord::UserFont:
-      return ApplyFontLine(line);
-    case LineWord::None:
-      return;
-  }
 }
 
 // A new proposal leaves what the format fills; the format is read anew, so that its texts come back as its
@@ -147,21 +58,12 @@ void EmptyFormat() {
   format.LogoChanged = false;
 }
 
-void TakeStoredForms() {
-  for (int p = 0; p < ItemPages; ++p)
-    for (int i = 0; i < AreaCount(p); ++i) {
-      proposal.PageText[p][i] = StoredForm(page(p), i);
-      proposal.SavedText[p][i] = proposal.PageText[p][i];
-    }
-}
-
 void ShowFormat() {
   format.FormatIsOpen = true;
   ParseFormatFile();
-  CopyLabelsToRecords();
-  ApplyFormatBold();
   UpdateEventNameLabels();  // the labels of the title have their places now, and keep the proposal's words
-  proposal.LabelRec[0][TitleLabel].Written = true;  // a title that came with the format is no one's change
+  // A title that came with the format is no one's change.
+  proposal.LabelMarks[0][shape::TitleLabel(0)].Written = true;
   frame().form.caption = QStringLiteral("Quillane - Format File = ") + format.FormatName;
 }
 
@@ -185,22 +87,25 @@ void OpenFormatFile() {
     } else if (!lines.isEmpty()) {
       ShowFormat();
     }
-    TakeStoredForms();
   });
 }
 
 void ParseFormatFile() {
-  Guarded("ParseFormatFile", [] {
-    const Scoped parsing(editing.Parsing, true);
-    const Scoped rebuilding(editing.RebuildingPages, true);
-    ApplyLines(format.FormatLines, EmptyLine::IsPassedOver, ApplyLine);
+  const Scoped parsing(editing.Parsing, true);
+  const Scoped rebuilding(editing.RebuildingPages, true);
+  Document document = ReadPages();
+  FormatLayer layer;
+  Guarded("ParseFormatFile", [&] {
+    ApplyFormatLines(format.FormatLines, document, layer, [&](const LogoRecord& stored) {
+      ApplyLogo(stored);
+      document.Logo = ReadLogo();
+    });
   });
-}
-
-void ApplyFormatBold() {
-  for (int p = 0; p < ItemPages; ++p)
-    for (Control& area : page(p).txt)
-      if (format.FormatTextRec[p][area.Index()].FontBold) area.SetFontBold(true);
+  Guarded("ParseFormatFile", [&] {
+    format.FormatLabelRec = layer.labels;
+    if (!editing.DoNotLockFormat) format.FormatTextRec = layer.texts;
+    PutOnPages(document);
+  });
 }
 
 void ForgetFormat() {

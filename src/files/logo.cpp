@@ -6,6 +6,7 @@
 #include "files/new_proposal.h"
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "pages/defaults.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
@@ -53,18 +54,6 @@ LogoChoice LogoWithoutFormat() {
   return PreferredLogo(ResolvePath(prefs.LogoFile));
 }
 
-void ShowPicture(const Picture& picture) {
-  Control& pic = page(0).pic[0];
-  pic.SetPicture(picture);
-  if (!picture.source.isEmpty()) {
-    pic.SetWidth(picture.width);
-    pic.SetHeight(picture.height);
-  }
-  const bool shown = !picture.source.isEmpty() && prefs.LogoVisible;
-  pic.SetShown(shown);
-  CheckMenu("mnuEditLogoVisible", shown);
-}
-
 bool HasLogo() {
   if (!page(0).pic[0].GetPicture().source.isEmpty()) return true;
   Tell(QStringLiteral("There is no logo on page 1. Choose one with \"Select Different Logo\" first."));
@@ -83,11 +72,11 @@ bool PathCanBeKept(const QString& path) {
   return false;
 }
 
-/// Remembers where the logo stands, for the proposal and for a format that is made of it.
+/// Remembers where the logo stands for a format that is made of the proposal.
 void TakePlace() {
   const Control& pic = page(0).pic[0];
-  proposal.LogoLeft = format.LogoLeft = pic.Left();
-  proposal.LogoTop = format.LogoTop = pic.Top();
+  format.LogoLeft = pic.Left();
+  format.LogoTop = pic.Top();
 }
 
 void TellUnreadable(const QString& path) {
@@ -117,9 +106,8 @@ void ChooseLogo(const QString& path) {
     pic.SetLeft(prefs.LogoLeft);
     pic.SetTop(prefs.LogoTop);
   }
-  proposal.LogoPath = path;
   TakePlace();
-  ShowPicture(picture);
+  ShowLogoPicture(picture);
   if (PathCanBeKept(path)) {
     format.LogoPath = path;
     format.LogoChanged = true;
@@ -147,7 +135,7 @@ void ToggleLogoVisible() {
   if (!HasLogo()) return;
   const bool shown = !page(0).pic[0].Hidden();
   StorePreference(QStringLiteral("Logo Visible:"), shown ? QStringLiteral("False") : QStringLiteral("True"));
-  ShowPicture(page(0).pic[0].GetPicture());  // by the setting as the file has it now
+  ShowLogoPicture(page(0).pic[0].GetPicture());  // by the setting as the file has it now
 }
 
 void ToggleLogoBorder() {
@@ -163,17 +151,13 @@ void ToggleLogoBorder() {
 }
 
 void LoadLogo() {
-  ShowPicture({});
-  proposal.LogoPath.clear();
+  ShowLogoPicture({});
   const LogoChoice choice = format.FormatIsOpen ? LogoUnderFormat() : LogoWithoutFormat();
   if (choice.path.isEmpty()) return;
   const Picture picture = desk().LoadPicture(choice.path);
   page(0).pic[0].SetLeft(choice.left);
   page(0).pic[0].SetTop(choice.top);
-  proposal.LogoPath = choice.path;
-  proposal.LogoLeft = choice.left;
-  proposal.LogoTop = choice.top;
-  ShowPicture(picture);
+  ShowLogoPicture(picture);
 }
 
 }  // namespace quillane

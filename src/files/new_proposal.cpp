@@ -12,7 +12,9 @@
 #include "model/report.h"
 #include "model/selection.h"
 #include "pages/defaults.h"
+#include "pages/fonts.h"
 #include "pages/labels.h"
+#include "pages/show_document.h"
 #include "pages/titles.h"
 #include "platform/files.h"
 #include "ui/desk.h"
@@ -46,12 +48,9 @@ QString DefaultSubTitle(const QString& kind) {
 // used.
 void ForgetFile() {
   ProposalState blank;
-  blank.PageText = std::move(proposal.PageText);
-  blank.SavedText = std::move(proposal.SavedText);
-  blank.DefaultLabels = std::move(proposal.DefaultLabels);
   blank.Mode = proposal.Mode;
   blank.SavingAs = proposal.SavingAs;
-  blank.SubTitle = DefaultSubTitle(QStringLiteral("Event"));
+  blank.SubTitleText = DefaultSubTitle(QStringLiteral("Event"));
   blank.CurrentFolder = prefs.ProposalFolder;
   proposal = std::move(blank);
   EnableMenu("mnuFileDelete", false);
@@ -60,7 +59,6 @@ void ForgetFile() {
 }
 
 void ForgetEditing() {
-  editing.CurrentForm = &page(0);
   editing.CurrentPage = 0;
   editing.CurrentArea = 0;
   editing.KeysSinceBackup = 0;
@@ -98,10 +96,6 @@ void BlankAreas(Page& target) {
   for (Control& area : target.txt) {
     Rest(area, colors::Grey);
     if (FormatFills(target.pageIndex, area.Index())) continue;
-    if (target.window != CopyOfPage6) {
-      proposal.PageText[target.pageIndex][area.Index()] = proposal.SavedText[target.pageIndex][area.Index()] =
-          BlankSlot();
-    }
     area.SetText(QString());
     area.SetFontBold(false);
   }
@@ -156,7 +150,7 @@ void RebuildColumns() {
 }
 
 void ShowWeddingWords() {
-  proposal.SubTitle = DefaultSubTitle(QStringLiteral("Wedding"));
+  proposal.SubTitleText = DefaultSubTitle(QStringLiteral("Wedding"));
   Control& date = page(0).lbl[9];
   Control& time = page(0).lbl[10];
   date.SetCaption(QStringLiteral("Wedding Date"));
@@ -193,7 +187,7 @@ bool StartNewFile() {
     FindHighestPage();
     UpdatePageNumbers();
   });
-  proposal.SavedPropertyLines = PropertyLinesNow();
+  proposal.Saved = ReadPages();
   format.FormatLines = FormatLinesNow();
   Step([] { UpdatePageButtons(0); });
   Step(RebuildColumns);

@@ -4,27 +4,22 @@
 #include <QStringList>
 #include <vector>
 
-#include "editing/user_font.h"
+#include "model/document.h"
 #include "platform/files.h"
 
 namespace quillane {
 
-/// Builds proposal.PropertyLines from the tables and clears the marks that it has taken.
+/// What a save has written is marked as written: no area or label is changed any more.
 void AssignPropChanges();
-/// The lines that a save would write, read from the pages as they stand, without touching a mark.
-QStringList PropertyLinesNow();
-/// Replaces `baseName` + ".wpf" by proposal.PropertyLines and adds it to what `written` holds, for the caller
-/// to keep.  False, after the report, when it could not be written.
-bool SavePropertyFile(const QString& baseName, std::vector<Replacement>& written);
-/// What is true of the lines and labels once that file is kept.
-void MarkPropertiesSaved();
+/// Replaces `baseName` + ".wpf" by these lines and adds it to what `written` holds, for the caller to keep.
+/// False, after the report, when it could not be written.
+bool SavePropertyFile(const QString& baseName, const QStringList& lines, std::vector<Replacement>& written);
 /// Where property files are written and read: the folder of the open file, but the proposal folder for a
 /// proposal that came from the backup folder, which holds field files only.
 QString PropertyFolder();
-/// Reads and applies the ".wpf" of the open proposal, if there is one.
-void ReadFileProperties();
-void ParsePropertyFile();
-/// Stores every label of every page in the table that printing reads.
-void CopyLabelsToRecords();
+/// Reads and applies the ".wpf" of the open proposal, if there is one; `filed` is what its own file says.
+void ReadFileProperties(const Document& filed);
+/// Applies lines to the pages up to the first malformed one, which is reported.
+void ParsePropertyFile(const QStringList& lines, const Document& filed);
 
 }  // namespace quillane

@@ -33,7 +33,7 @@ bool RemoveProposalFile(const QString& path) {
 void TakeBackup() {
   const QByteArray bytes = ReadWholeFile(proposal.CurrentFolder + proposal.EventFileName);
   ReplaceFile(prefs.ProposalFolder + proposal.EventFileName, bytes);
-  if (!proposal.TitleByHand) proposal.Title = QStringLiteral("Proposal for ") + proposal.BaseName;
+  if (!proposal.TitleByHand) proposal.Title = TitleFor(proposal.BaseName);
   UpdateEventNameLabels();
   proposal.CurrentFolder = prefs.ProposalFolder;
   frame()["lblDir"].SetCaption(QStringLiteral("Current Folder = ") + proposal.CurrentFolder);

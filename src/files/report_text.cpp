@@ -3,6 +3,8 @@
 
 #include "files/export.h"
 #include "model/proposal.h"
+#include "pages/rows.h"
+#include "pages/show_document.h"
 #include "platform/codepage.h"
 
 namespace quillane {
@@ -44,19 +46,13 @@ QString Section(const char* heading, const Datum (&data)[Count]) {
   QString text = Heading(heading);
   for (const Datum& datum : data)
     text += Line(page(0).lbl[datum.label].Caption() + QLatin1String(datum.behindCaption), datum.tabs,
-                 proposal.PageText[0][datum.field].trimmed());
+                 PageText(0, datum.field).trimmed());
   return text + LineEnd + LineEnd;
 }
 
-/// A prompt stands in a column until something is typed there.
-QString Typed(const Control& column, QLatin1String prompt) {
-  const QString text = column.Text().trimmed();
-  return text == prompt ? QString() : text;
-}
-
-QString PlainRow(const Control& area, const QString& text) {
+QString PlainRow(const QString& text, bool bold) {
   if (text.isEmpty()) return LineEnd + LineEnd;
-  return text + LineEnd + (area.GetFont().bold ? Rule(ItemRule) : QString());
+  return text + LineEnd + (bold ? Rule(ItemRule) : QString());
 }
 
 QString RowWithColumns(const QString& text, const QString& quantity, const QString& each) {
@@ -69,13 +65,12 @@ QString RowWithColumns(const QString& text, const QString& quantity, const QStri
 }
 
 QString Item(const Page& items, int row) {
-  const Control& area = items.txt[row];
-  const Control* quantity = row < items.txtQty.size() ? &items.txtQty[row] : nullptr;
-  const bool plain = !quantity || quantity->Hidden() || quantity->Text() == QLatin1String("Qty.");
-  const QString text = area.Text().trimmed();
-  QString item = plain ? PlainRow(area, text)
-                       : RowWithColumns(text, quantity->Text().trimmed(),
-                                        Typed(items.txtAmt[row], QLatin1String("Amt.")));
+  const TextAreaRecord area = ReadArea(items, row);
+  const bool plain = !area.QtyBox || area.QtyValue == QuantityPrompt;
+  const QString text = area.Text.trimmed(), each = area.AmtValue.trimmed();
+  // A prompt stands in a column until something is typed there.
+  QString item = plain ? PlainRow(text, area.FontBold)
+                       : RowWithColumns(text, area.QtyValue.trimmed(), each == EachPrompt ? QString() : each);
   const QString amount = items.txt[row + items.AmountOffset()].Text().trimmed();
   if (!amount.isEmpty()) item += Line(QStringLiteral("Subtotal:"), 2, Money(amount)) + LineEnd;
   return item;

@@ -10,45 +10,42 @@ constexpr float RowStep = 360;
 
 struct AreaPlace {
   float left, top, width;
-  const char* tag;
 };
 
 AreaPlace FirstPageField(int area) {
   constexpr float NameTop[] = {4680, 5040, 5400, 6840, 7200, 7560};
-  if (area == 0) return {720, 3420, 2520, "Date.025"};
-  if (area == 1) return {9000, 3420, 2520, "Date.025"};
+  if (area == 0) return {720, 3420, 2520};
+  if (area == 1) return {9000, 3420, 2520};
   if (area <= 13) {
     const int field = area - 2;  // bride left, bride right, groom left, groom right: three each
     const bool right = (field / 3) % 2 == 1;
-    return {right ? 7740.0F : 2340.0F, NameTop[field / 6 * 3 + field % 3], 3600, "Name.060"};
+    return {right ? 7740.0F : 2340.0F, NameTop[field / 6 * 3 + field % 3], 3600};
   }
   const float left = area % 2 == 0 ? 2340.0F : 7740.0F;
-  if (area <= 15) return {left, 9000, 3600, "Name.060"};
-  if (area <= 17) return {left, 10440, 3600, "Name.060"};
-  return {left, 10800, 3600, "Date.025"};
+  if (area <= 15) return {left, 9000, 3600};
+  if (area <= 17) return {left, 10440, 3600};
+  return {left, 10800, 3600};
 }
 
 AreaPlace FirstPageArea(int area) {
   if (area < 20) return FirstPageField(area);
   if (area < 28) {
     const float top = 11655 + RowStep * static_cast<float>(area - 20);
-    return {sheet::PlainLeft, top, sheet::PlainWidth, area == 27 ? "Stop.120" : "Push.120"};
+    return {sheet::PlainLeft, top, sheet::PlainWidth};
   }
-  return {10260, 11655 + RowStep * static_cast<float>(area - 28), 1260, "Amount.020"};
+  return {10260, 11655 + RowStep * static_cast<float>(area - 28), 1260};
 }
 
 AreaPlace ItemPageArea(int area) {
   if (area < 35) {
     const float top = 1800 + RowStep * static_cast<float>(area);
-    return {sheet::PlainLeft, top, sheet::PlainWidth, area == 34 ? "Stop.120" : "Push.120"};
+    return {sheet::PlainLeft, top, sheet::PlainWidth};
   }
-  return {10080, 1800 + RowStep * static_cast<float>(area - 35), 1260, "Amount.020"};
+  return {10080, 1800 + RowStep * static_cast<float>(area - 35), 1260};
 }
 
 AreaPlace TotalsArea(int area) {
-  static constexpr const char* Tags[] = {"SubTotal.020", "AllTaxable.020", "Tax.020",
-                                         "Total.020",    "Deposit.020",    "Balance.020"};
-  return {area < 3 ? 3240.0F : 9900.0F, 1440 + RowStep * static_cast<float>(area % 3), 1260, Tags[area]};
+  return {area < 3 ? 3240.0F : 9900.0F, 1440 + RowStep * static_cast<float>(area % 3), 1260};
 }
 
 AreaPlace PlaceOf(int window, int area) {
@@ -68,12 +65,12 @@ FixedArray<std::unique_ptr<Page>, PageCount>& Pages() {
   return pages;
 }
 
-void PlaceArea(Control& area, const AreaPlace& place) {
+void PlaceArea(Control& area, const AreaPlace& place, const char* tag) {
   area.SetLeft(place.left);
   area.SetTop(place.top);
   area.SetWidth(place.width);
   area.SetHeight(sheet::AreaHeight);
-  area.SetTag(QString::fromLatin1(place.tag));
+  area.SetTag(QString::fromLatin1(tag));
   area.SetBackColor(colors::Grey);
 }
 
@@ -92,13 +89,13 @@ Page::Page(int windowIndex) : window(windowIndex), pageIndex(windowIndex == Copy
   form.name =
       windowIndex == CopyOfPage6 ? QStringLiteral("frmP6_1") : QStringLiteral("frmP%1").arg(windowIndex + 1);
   const bool first = window == 0;
-  const int areas = first ? 36 : window <= 4 ? 70 : 6;
+  const int areas = AreaCount(pageIndex);
   txt = MakeArray(form, Kind::TextBox, "txt", areas);
   imgNoTax = MakeArray(form, Kind::Image, "imgNoTax", IsItemPage() ? areas : 1);
-  lbl = MakeArray(form, Kind::Label, "lbl", first ? 46 : window <= 4 ? 39 : 65);
+  lbl = MakeArray(form, Kind::Label, "lbl", shape::LabelCount(pageIndex));
   lne = MakeArray(form, Kind::Line, "lne", first ? 20 : window <= 4 ? 0 : 16);
   if (IsItemPage()) {
-    const int rows = first ? 28 : 35;
+    const int rows = shape::ColumnBoxCount(pageIndex);
     txtQty = MakeArray(form, Kind::TextBox, "txtQty", rows);
     txtAmt = MakeArray(form, Kind::TextBox, "txtAmt", rows);
     lblAt = MakeArray(form, Kind::Label, "lblAt", rows);
@@ -110,7 +107,7 @@ Page::Page(int windowIndex) : window(windowIndex), pageIndex(windowIndex == Copy
 
   for (int i = 0; i < areas; ++i) {
     Control& area = txt[i];
-    PlaceArea(area, PlaceOf(window, i));
+    PlaceArea(area, PlaceOf(window, i), shape::Tag(pageIndex, i));
     area.SetLocked(window == CopyOfPage6);
   }
   for (int i = 0; i < txtQty.size(); ++i) {
@@ -147,6 +144,12 @@ Page& page(int window) {
 Page* PageOf(const Control& control) {
   for (int i = 0; i < PageCount; ++i)
     if (&page(i).form == &control.Owner()) return &page(i);
+  return nullptr;
+}
+
+Page* PageNamed(const QString& name) {
+  for (int i = 0; i < PageCount; ++i)
+    if (page(i).form.name == name) return &page(i);
   return nullptr;
 }
 

@@ -1,5 +1,6 @@
 // The seven pages: objects with numbered areas, labels, marks, lines and a logo.
 #pragma once
+#include "model/shape.h"
 #include "platform/array.h"
 #include "ui/control.h"
 
@@ -44,27 +45,28 @@ class Page {
   Array<Control> shpSelect;  ///< one element on pages with a selection
 
   Drag drag;
-  bool columnsLoaded = false;
+  bool ColumnsLoaded = false;
   int lastFocused = 0;  ///< the txt index that takes the focus when the page comes to the front
 
   /// All controls in the page's own order: the order in which they print and are added up.
   const Array<Control*>& Controls() const { return order_; }
 
-  bool IsItemPage() const { return window <= 4; }
-  bool IsTotalsPage() const { return window >= 5; }
+  bool IsItemPage() const { return shape::IsItemPage(pageIndex); }
+  bool IsTotalsPage() const { return !IsItemPage(); }
   int LastText() const { return txt.size() - 1; }
   int LastLabel() const { return lbl.size() - 1; }
-  /// The description rows that may have columns: 20 to 27 on frmP1, 0 to 34 on frmP2 to frmP5.
-  int FirstRow() const { return window == 0 ? 20 : 0; }
-  int LastRow() const { return window == 0 ? 27 : 34; }
-  bool IsRow(int area) const { return IsItemPage() && area >= FirstRow() && area <= LastRow(); }
-  /// From a row to its amount area: 8 on frmP1, 35 on the item pages.
-  int AmountOffset() const { return window == 0 ? 8 : 35; }
-  bool IsAmount(int area) const { return IsItemPage() && IsRow(area - AmountOffset()); }
+  // See model/shape.h.
+  int FirstRow() const { return shape::FirstRow(pageIndex); }
+  int LastRow() const { return shape::LastRow(pageIndex); }
+  bool IsRow(int area) const { return shape::IsRow(pageIndex, area); }
+  int AmountOffset() const { return shape::AmountOffset(pageIndex); }
+  bool IsAmount(int area) const { return shape::IsAmount(pageIndex, area); }
   /// The currency label of an amount area: lbl(a + 7) on frmP1, lbl(a - 34) on the item pages.
   Control& CurrencyLabel(int amountArea) { return lbl[window == 0 ? amountArea + 7 : amountArea - 34]; }
-  /// True when the row's area stands in the narrow place, which is what makes it a row with columns.
-  bool HasColumns(int row) const { return txt[row].Width() == sheet::ColumnsWidth; }
+  /// Whether an area is a row whose quantity and each-price stand beside it.
+  bool HasColumns(int area) const { return IsRow(area) && txtQty[area].Visible(); }
+  /// Whether an area's tax mark shows: its amount is exempt.
+  bool IsExempt(int area) const { return IsItemPage() && imgNoTax[area].Visible(); }
 
  private:
   Array<Control*> order_;
@@ -74,6 +76,8 @@ class Page {
 Page& page(int window);
 /// The page that owns a control; null for a control of the frame or of another window.
 Page* PageOf(const Control& control);
+/// The page "frmP2"; null when there is none of that name.
+Page* PageNamed(const QString& name);
 /// The control "frmP2.txt(35)" or "frmP2.txtQty(3)"; null when there is none.
 Control* FindPageControl(const QString& fullName);
 

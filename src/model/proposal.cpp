@@ -7,15 +7,12 @@
 
 namespace quillane {
 
-QString BlankSlot() {
-  return QString(120, QLatin1Char(' '));
+void NameProposal(const QString& baseName) {
+  const bool named = !baseName.isEmpty();
+  proposal.BaseName = baseName;
+  proposal.EventFileName = named ? baseName + QStringLiteral(".wwf") : QString();
+  proposal.TextFileName = named ? baseName + QStringLiteral(".txt") : QString();
 }
-
-namespace {
-void BlankTexts(PageTexts& texts) {
-  for (int p = 0; p < IndexedPages; ++p) texts[p] = Array<QString>(AreaCount(p), BlankSlot());
-}
-}  // namespace
 
 void ResetState() {
   editing = {};
@@ -31,12 +28,9 @@ void ResetState() {
   const QString programFolder = prefs.ProgramFolder;  // the run's, not the proposal's
   prefs = {};
   prefs.ProgramFolder = programFolder;
-  BlankTexts(proposal.PageText);
-  BlankTexts(proposal.SavedText);
   CreatePages();
   CreateFrame();
   ResetStrip();
-  editing.CurrentForm = &page(0);
 }
 
 }  // namespace quillane

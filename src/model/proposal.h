@@ -5,81 +5,35 @@
 #include <array>
 #include <vector>
 
+#include "model/document.h"
 #include "model/page.h"
 #include "ui/font.h"
 
 namespace quillane {
 
-inline constexpr int IndexedPages = 6;  ///< pages that have an index in the arrays
-inline constexpr int ItemPages = 5;
-inline constexpr int AreasPerPage = 70;
-inline constexpr int LabelsPerPage = 65;
-
-/// What an area carries beside its text.
-struct TextAreaRecord {
+/// What has happened to an area or a label since its file was written; a copy of the document has none of it.
+struct AreaMark {
   bool PropChanged = false;  ///< bold or exemption changed by hand; cleared once the property file is written
-  bool FontBold = false;
-  QString Text;                ///< fixed text of an area that is not numeric
-  bool HasFormatText = false;  ///< the format layer fixes this area's text
-  bool TaxExempt = false;
-  bool QtyBox = false;         ///< the row has columns
-  QString QtyValue, AmtValue;  ///< texts of txtQty and txtAmt
-  bool QtyWritten = false;     ///< set while the row's column line must still reach a file
-  bool operator==(const TextAreaRecord&) const = default;
+  bool QtyWritten = false;   ///< set while the row's column line must still reach a file
 };
-
-struct LabelRecord {
-  bool Changed = false;
-  float Left = 0, Top = 0;  ///< twips
-  QString Caption, FontName;
-  float FontSize = 0;  ///< points
-  bool FontBold = false;
-  Color ForeColor = 0;
-  bool FontItalic = false, FontUnderline = false;
-  bool Written = false;
-  bool operator==(const LabelRecord&) const = default;
+struct LabelMark {
+  bool Changed = false;  ///< stored by hand or by a file: the property file has a line for it
+  bool Written = false;  ///< as it stands
 };
-
-/// A label's factory state.
-struct LabelDefault {
-  float Left = 0, Top = 0;
-  QString Caption, FontName;
-  float FontSize = 0;
-  bool FontBold = false;
-  Color ForeColor = 0;
-  bool FontItalic = false, FontUnderline = false;
-  bool operator==(const LabelDefault&) const = default;
-};
-
-using TextTable = FixedArray<FixedArray<TextAreaRecord, AreasPerPage>, IndexedPages>;
-using LabelTable = FixedArray<FixedArray<LabelRecord, LabelsPerPage>, IndexedPages>;
-/// One string array per page: 36, 70, 70, 70, 70 and 6 of them.
-using PageTexts = FixedArray<Array<QString>, IndexedPages>;
-
-/// How many areas a page has, by page index 0 to 5.
-constexpr int AreaCount(int pageIndex) {
-  return pageIndex == 0 ? 36 : pageIndex == 5 ? 6 : 70;
-}
-/// A slot before the first text is written, as the file's fixed fields are.
-QString BlankSlot();
-
-/// The font that areas take.
-struct UserFont {
-  QString FontName = QStringLiteral("Arial");
-  float FontSize = 10;
-  Color FontColor = 0;
-  bool FontItalic = false;
-  bool operator==(const UserFont&) const = default;
-};
+template <class T, int Count>
+using ByPage = FixedArray<FixedArray<T, Count>, IndexedPages>;
 
 struct ProposalState {
-  PageTexts PageText, SavedText;
-  TextTable TextRec;
-  LabelTable LabelRec, LabelBackup;
-  FixedArray<Array<LabelDefault>, IndexedPages> DefaultLabels;
+  // What the pages show is the document: ReadPages() in pages/show_document.h reads it off.  Beside it stand
+  // what no page shows, and the document as it was last written or read.
+  Document Saved;
+  ByPage<AreaMark, AreasPerPage> AreaMarks;
+  ByPage<LabelMark, LabelsPerPage> LabelMarks;
+  ByPage<LabelValues, LabelsPerPage>
+      LabelBackup;  ///< a label as it stood when it was marked by a double click
 
-  // All money is single precision; AreaAmount and AreaTaxable are by page index, then area.
-  FixedArray<FixedArray<float, AreasPerPage>, ItemPages> AreaAmount, AreaTaxable;
+  // All money is single precision.
+  ByPage<float, AreasPerPage> AreaAmount;  ///< by page index, then area: the last text that was a number
   FixedArray<float, ItemPages> PageSubTotal, PageTaxable;
   float SubTotal = 0, TaxableAmount = 0, SalesTax = 0, GrandTotal = 0, DepositReceived = 0, BalanceDue = 0;
   float RunningTotal = 0, CheckTotal = 0;  ///< GrandTotal as each of the two calculations last had it
@@ -92,24 +46,15 @@ struct ProposalState {
   QString CurrentFolder;  ///< the folder of the open file
   bool FileIsNamed = false, SavingAs = false, SaveCancelled = false, BackupInProgress = false;
   bool OpenedFromBackup = false;
-  QString Mode;              ///< "Event", "Wedding", or empty
-  QString Title;             ///< "Proposal for Emily Carter"
-  QString SubTitle;          ///< "Alder Events - Event Proposal - "
-  bool TitleByHand = false;  ///< a title made by hand stays until New or Open
-
-  QStringList PropertyLines;
-  QStringList
-      SavedPropertyLines;  ///< as last written or read: a difference from what would be written is a change
-
-  // The logo of the open proposal.
-  QString LogoPath;
-  float LogoLeft = 0, LogoTop = 0;
+  QString Mode;                 ///< "Event", "Wedding", or empty
+  QString Title, SubTitleText;  ///< see Document
+  bool TitleByHand = false;
 };
 
 /// The reusable format that may lie under a proposal.
 struct FormatState {
-  TextTable FormatTextRec;
-  LabelTable FormatLabelRec;
+  FormatTextTable FormatTextRec;
+  FormatLabelTable FormatLabelRec;
   QString FormatName, FormatFolder;
   bool FormatIsOpen = false, FormatSessionActive = false, FormatAsDefault = false, FormatSaveAs = false;
   bool DefaultSetAside = false;  ///< another format, or none, was chosen in place of the default for this run
@@ -120,10 +65,11 @@ struct FormatState {
 };
 
 struct EditingState {
-  int CurrentPage = 0;          ///< page index of the last area to have the focus
-  Page* CurrentForm = nullptr;  ///< frmP1 to frmP6, never frmP6_1
-  int FrontWindow = 0;          ///< the page in front, 0 to 6
-  QString CurrentFormName;      ///< "frmP1" to "frmP6", or "frmP6_1"
+  // The page in use is that of the last area to have the focus, and stands in front unless the copy does.
+  int CurrentPage = 0;  ///< page index 0 to 5
+  bool CopyInFront = false;
+  Page& CurrentForm() const { return page(CurrentPage); }
+  int FrontWindow() const { return CopyInFront ? CopyOfPage6 : CurrentPage; }  ///< 0 to 6
   int CurrentArea = 0;
   QString CurrentText, CurrentAreaType, CurrentAreaLimit;
   float CurrentAreaWidth = 0;
@@ -160,7 +106,7 @@ struct EditingState {
 struct LabelEditState {
   int CurrentLabel = 0;  ///< index of the label last pressed
   int pressedOn = 0;     ///< the page index of that label
-  LabelRecord CurrentLabelRec;
+  LabelValues CurrentLabelRec;
   int LabelCount = 0;  ///< highest label index of the page
   QString LabelCaption;
   float LabelFontSize = 0;  ///< points
@@ -254,6 +200,9 @@ inline TaxState tax;
 inline Preferences prefs;
 inline FileDialogState fileDialog;
 inline TermsState terms;
+
+/// The client's name, or one given by hand, names the proposal's files; without one there are none.
+void NameProposal(const QString& baseName);
 
 /// Puts every struct above, the pages and the frame back to what they are at the program's start.
 void ResetState();

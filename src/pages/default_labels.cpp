@@ -28,10 +28,6 @@ Control& Label(Page& page, int index) {
   return page.lbl[index];
 }
 
-QString BlankTitle() {
-  return QStringLiteral("Proposal for (Client's Name)");
-}
-
 /// `count` currency signs from label `first` on, one under the other.
 void PutCurrencySigns(Page& page, int first, int count, Place top) {
   for (int i = 0; i < count; ++i, top.top += 360)
@@ -47,7 +43,7 @@ void PutFooter(Page& page) {
   Put(next, {0, FooterTop}, QStringLiteral("Continued on Page %1").arg(number + 1), Weight::Bold);
   const Control& amount = page.txt.back();
   next.SetLeft(amount.Left() + amount.Width() - next.Width());
-  Put(Label(page, first + 2), {4860, FooterTop}, BlankTitle(), Weight::Bold);
+  Put(Label(page, first + 2), {4860, FooterTop}, TitleWithoutName, Weight::Bold);
 }
 
 // --- frmP1
@@ -125,7 +121,7 @@ void PlaceFirstPage(Page& page) {
 // ------------------------------------------------------------------------------------------------
 
 void PlaceItemPage(Page& page) {
-  const QString heading = proposal.SubTitle + QStringLiteral("Page %1").arg(page.window + 1);
+  const QString heading = proposal.SubTitleText + QStringLiteral("Page %1").arg(page.window + 1);
   Put(Label(page, labels::Heading), {3130, 540}, heading, Weight::Plain, HeadingSize);
   PutCurrencySigns(page, 1, 35, {9900, 1800});
   PutFooter(page);
@@ -245,7 +241,7 @@ void PlaceTotalsPage(Page& page) {
   Put(Label(page, 63), {900, FooterTop}, QStringLiteral("Page 6 of 6"), Weight::Bold);
   const QString copy =
       page.window == CopyOfPage6 ? QStringLiteral(" - Client's Copy") : QStringLiteral(" - Our Copy");
-  Put(Label(page, 64), {5310, FooterTop}, BlankTitle() + copy, Weight::Bold);
+  Put(Label(page, 64), {5310, FooterTop}, TitleWithoutName + copy, Weight::Bold);
 }
 
 // --- Rules

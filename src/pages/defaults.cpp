@@ -4,6 +4,7 @@
 
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "pages/fonts.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
 #include "ui/desk.h"
@@ -15,8 +16,8 @@ namespace {
 /// The quantity's and the price's prompts; frmP1's boxes begin empty.
 void ClearColumnTexts(Page& page) {
   const bool prompts = page.window != 0;
-  for (Control& box : page.txtQty) box.SetText(prompts ? QStringLiteral("Qty.") : QString());
-  for (Control& box : page.txtAmt) box.SetText(prompts ? QStringLiteral("Amt.") : QString());
+  for (Control& box : page.txtQty) box.SetText(prompts ? QuantityPrompt : QString());
+  for (Control& box : page.txtAmt) box.SetText(prompts ? EachPrompt : QString());
 }
 
 void HideColumns(Page& page) {
@@ -33,7 +34,7 @@ void ShowDefaultPage(Page& page) {
   for (Control& area : page.txt) area.SetFontBold(false);
   if (page.IsItemPage()) {
     for (int row = page.FirstRow(); row <= page.LastRow(); ++row) PlaceRowWithoutColumns(page.txt[row]);
-    if (page.columnsLoaded) {
+    if (page.ColumnsLoaded) {
       ClearColumnTexts(page);
       HideColumns(page);
     }
@@ -52,27 +53,9 @@ void GiveMarksTheirDrawing(Page& page) {
     mark.SetPicture({QStringLiteral(":/icons/no-tax.svg"), mark.Width(), mark.Height()});
 }
 
-LabelDefault DefaultOf(const Control& label) {
-  const Font& font = label.GetFont();
-  return {label.Left(), label.Top(),       label.Caption(), font.name,     font.size,
-          font.bold,    label.ForeColor(), font.italic,     font.underline};
-}
-
-void ShowLogo(Page& first) {
-  const bool shown = prefs.LogoVisible && !first.pic[0].GetPicture().source.isEmpty();
-  first.pic[0].SetShown(shown);
-  if (Control* entry = frame().Find(QStringLiteral("mnuEditLogoVisible"))) entry->SetChecked(shown);
-}
-
 void ShowFirstPageRules(Page& first) {
   constexpr int Shown[] = {0, 5, 10, 15, 2, 7, 12, 17};
   for (Control& line : first.lne) line.SetShown(std::ranges::find(Shown, line.Index()) != std::end(Shown));
-}
-
-void TakeFormatBold(Page& page) {
-  const auto& records = format.FormatTextRec[page.pageIndex];
-  for (Control& area : page.txt)
-    if (records[area.Index()].FontBold) area.SetFontBold(true);
 }
 
 }  // namespace
@@ -93,15 +76,6 @@ void ShowDefaultPages() {
   const Scoped newFile(editing.NewFile, true);
   LookForAlternativePages();
   for (int window = 0; window < PageCount; ++window) ShowDefaultPage(page(window));
-  StoreDefaultLabels();
-}
-
-void StoreDefaultLabels() {
-  for (int window = 0; window < IndexedPages; ++window) {
-    auto& defaults = proposal.DefaultLabels[window];
-    defaults.clear();
-    for (const Control& label : page(window).lbl) defaults.push_back(DefaultOf(label));
-  }
 }
 
 void ShowPageControls(Page& page) {
@@ -111,22 +85,33 @@ void ShowPageControls(Page& page) {
     for (Control& line : page.lne) line.SetShown(true);
     return;
   }
-  if (format.FormatIsOpen) TakeFormatBold(page);
   for (Control& label : page.lbl) label.SetVisible(!label.Hidden());
   if (page.window != 0) return;
-  ShowLogo(page);
+  ShowLogoPicture(page.pic[0].GetPicture());
   ShowFirstPageRules(page);
 }
 
+void ShowLogoPicture(const Picture& picture) {
+  Control& pic = page(0).pic[0];
+  pic.SetPicture(picture);
+  if (!picture.source.isEmpty()) {
+    pic.SetWidth(picture.width);
+    pic.SetHeight(picture.height);
+  }
+  const bool shown = !picture.source.isEmpty() && prefs.LogoVisible;
+  pic.SetShown(shown);
+  CheckMenu("mnuEditLogoVisible", shown);
+}
+
 void LoadColumns(Page& page) {
-  if (page.columnsLoaded || !page.IsItemPage()) return;
+  if (page.ColumnsLoaded || !page.IsItemPage()) return;
   const Scoped rebuilding(editing.RebuildingPages, true);
   try {
     for (int row = page.FirstRow(); row <= page.LastRow(); ++row) {
-      page.txtQty[row].SetText(QStringLiteral("Qty."));
-      page.txtAmt[row].SetText(QStringLiteral("Amt."));
+      page.txtQty[row].SetText(QuantityPrompt);
+      page.txtAmt[row].SetText(EachPrompt);
     }
-    page.columnsLoaded = true;
+    page.ColumnsLoaded = true;
   } catch (const RuntimeError&) {
     Tell(QStringLiteral("Error in loading columns on Page %1.").arg(page.window + 1));
   }
@@ -149,19 +134,6 @@ void ShowRowColumns(Page& page, int row, bool shown) {
     control->SetTop(area.Top());
     control->SetShown(shown);
   }
-}
-
-void SetMyFonts(Page& page) {
-  const UserFont& user = proposal.UDP;
-  for (auto* array : {&page.txt, &page.txtQty, &page.txtAmt})
-    for (Control& area : *array) {
-      area.SetFont(
-          {user.FontName, user.FontSize, area.GetFont().bold, user.FontItalic, area.GetFont().underline});
-      // A selected area stays white on blue, and takes the colour when it is deselected.
-      if (area.BackColor() != colors::Blue) area.SetForeColor(user.FontColor);
-    }
-  for (auto* array : {&page.lblAt, &page.lblEach})
-    for (Control& label : *array) label.SetFontName(QStringLiteral("Arial"));
 }
 
 }  // namespace quillane

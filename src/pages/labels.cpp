@@ -11,7 +11,6 @@ namespace quillane {
 namespace {
 
 const QString PropsWindow = QStringLiteral("frmLabelProps");
-constexpr int TotalsPage = 5;
 const QString OurCopy = QStringLiteral("Our Copy"), ClientsCopy = QStringLiteral("Client's Copy");
 
 bool Between(int value, int first, int last) {
@@ -24,19 +23,12 @@ Control& CurrentLabelOf(Page& page) {
   return page.lbl[labelEdit.CurrentLabel];
 }
 
-void Store(LabelRecord& stored, const LabelRecord& values) {
-  stored = values;
-  stored.Changed = true;
-  stored.Written = false;
-}
-
 /// Slant and underline are the copy's own.
-void CarryToCopy(int index, LabelRecord values) {
-  Control& label = page(CopyOfPage6).lbl[index];
-  values.FontItalic = label.GetFont().italic;
-  values.FontUnderline = label.GetFont().underline;
-  values.Caption = CaptionForCopy(values.Caption);
-  ApplyValues(label, values);
+void CarryToCopy(int index, LabelValues values) {
+  const Font& font = page(CopyOfPage6).lbl[index].GetFont();
+  values.FontItalic = font.italic;
+  values.FontUnderline = font.underline;
+  ShowLabelOnCopy(index, values);
 }
 
 /// What the menu is asked for without a press on this page is its first label.
@@ -56,14 +48,14 @@ void KeepCommon(T& common, const T& value, const T& none = {}) {
   if (common != value) common = none;
 }
 
-LabelRecord CommonValues(const Page& page) {
+LabelValues CommonValues(const Page& page) {
   const auto first = std::ranges::find_if(page.lbl, IsMarked);
   if (first == page.lbl.end()) return {};
-  LabelRecord common = ValuesOf(*first);
+  LabelValues common = ValuesOf(*first);
   common.Caption.clear();
   for (const Control& label : page.lbl) {
     if (!IsMarked(label)) continue;
-    const LabelRecord values = ValuesOf(label);
+    const LabelValues values = ValuesOf(label);
     KeepCommon(common.FontName, values.FontName);
     KeepCommon(common.FontSize, values.FontSize);
     KeepCommon(common.FontBold, values.FontBold);
@@ -100,9 +92,9 @@ bool IsCurrencySign(const Page& page, int label) {
   return Between(label, 4, 6) || Between(label, 10, 12);
 }
 
-LabelRecord ValuesOf(const Control& label) {
+LabelValues ValuesOf(const Control& label) {
   const Font& font = label.GetFont();
-  LabelRecord values;
+  LabelValues values;
   values.Left = label.Left();
   values.Top = label.Top();
   values.Caption = label.Caption();
@@ -115,7 +107,7 @@ LabelRecord ValuesOf(const Control& label) {
   return values;
 }
 
-void ApplyValues(Control& label, const LabelRecord& values) {
+void ApplyValues(Control& label, const LabelValues& values) {
   label.SetFont({values.FontName, values.FontSize, values.FontBold, values.FontItalic, values.FontUnderline});
   label.SetForeColor(values.ForeColor);
   label.SetCaption(values.Caption);
@@ -130,20 +122,25 @@ QString CaptionForCopy(QString caption) {
 }
 
 void LoadCurrentLabel() {
-  labelEdit.CurrentLabelRec = ValuesOf(CurrentLabelOf(*editing.CurrentForm));
+  labelEdit.CurrentLabelRec = ValuesOf(CurrentLabelOf(editing.CurrentForm()));
 }
 
-void StoreLabel(int index) {
-  const int current = editing.CurrentPage;
-  if (!Between(index, 0, LabelsPerPage - 1)) Raise(errors::Subscript, QStringLiteral("label %1").arg(index));
-  Store(format.FormatLabelRec[current][index], labelEdit.CurrentLabelRec);
-  Store(proposal.LabelRec[current][index], labelEdit.CurrentLabelRec);
-  if (current == TotalsPage) CarryToCopy(index, labelEdit.CurrentLabelRec);
+void ShowLabelOnCopy(int index, const LabelValues& values) {
+  LabelValues onCopy = values;
+  onCopy.Caption = CaptionForCopy(values.Caption);
+  ApplyValues(page(CopyOfPage6).lbl[index], onCopy);
+}
+
+void StoreLabel(const Page& page, int index) {
+  if (!Between(index, 0, page.LastLabel())) Raise(errors::Subscript, QStringLiteral("label %1").arg(index));
+  format.FormatLabelRec[page.pageIndex][index].Changed = true;
+  proposal.LabelMarks[page.pageIndex][index] = {true, false};
+  if (page.pageIndex == shape::Totals) CarryToCopy(index, ValuesOf(page.lbl[index]));
 }
 
 void EditLabelProps() {
   if (desk().WindowIsOpen(PropsWindow)) return;
-  const Page& front = *editing.CurrentForm;
+  const Page& front = editing.CurrentForm();
   TakeLabelOfPage(front);
   LoadCurrentLabel();
   OpenProps(front);
@@ -151,7 +148,7 @@ void EditLabelProps() {
 
 void SelectAllLabels() {
   if (desk().WindowIsOpen(PropsWindow)) return;
-  Page& front = *editing.CurrentForm;
+  Page& front = editing.CurrentForm();
   TakeLabelOfPage(front);
   for (Control& label : front.lbl)
     if (!IsCurrencySign(front, label.Index())) Mark(label);
@@ -160,7 +157,7 @@ void SelectAllLabels() {
 }
 
 void DeselectAllLabels() {
-  for (Control& label : editing.CurrentForm->lbl) Unmark(label);
+  for (Control& label : editing.CurrentForm().lbl) Unmark(label);
 }
 
 }  // namespace quillane

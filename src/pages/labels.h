@@ -1,4 +1,4 @@
-// The labels of a page in a person's hands: marking, dragging, the label menu.
+// The labels of a page: marking, dragging, the label menu, what is stored of them.
 #pragma once
 #include "model/page.h"
 #include "model/proposal.h"
@@ -48,18 +48,21 @@ bool IsCurrencySign(const Page& page, int label);
 inline constexpr Color NoCommonColour = -1;
 
 /// The nine values of a label, and the way back.
-LabelRecord ValuesOf(const Control& label);
-void ApplyValues(Control& label, const LabelRecord& values);
+LabelValues ValuesOf(const Control& label);
+void ApplyValues(Control& label, const LabelValues& values);
 
 /// What a caption of frmP6 reads on the client's copy: the two sheets say whose they are.
 QString CaptionForCopy(QString caption);
 
-/// Fills labelEdit.CurrentLabelRec from CurrentLabel of editing.CurrentForm, marked or not.  Throws 9 for an
+/// Gives a label of frmP6_1 the values of its fellow on frmP6; the caption says whose sheet it is.
+void ShowLabelOnCopy(int index, const LabelValues& values);
+
+/// Fills labelEdit.CurrentLabelRec from CurrentLabel of the page in use, marked or not.  Throws 9 for an
 /// index that the page does not have.
 void LoadCurrentLabel();
-/// Writes CurrentLabelRec into the label tables of the format and of the proposal, at editing.CurrentPage; on
-/// frmP6 the copy page follows.  Throws 9 for an index beyond the tables.
-void StoreLabel(int index);
+/// A label that was changed by hand belongs to the proposal and to the format from now on, as it stands; on
+/// frmP6 the copy page follows.  Throws 9 for an index that the page does not have.
+void StoreLabel(const Page& page, int index);
 
 // The entries of mnuEditLabel; they work on the page in front.
 

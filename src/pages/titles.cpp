@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "model/frame.h"
 #include "model/proposal.h"
+#include "pages/labels.h"
 #include "platform/codepage.h"
 #include "settings/preferences.h"
 
@@ -13,31 +15,14 @@ namespace quillane {
 namespace {
 
 const QString OurCopy = QStringLiteral(" - Our Copy");
-const QString TitleWithoutName = QStringLiteral("Proposal for (Client's Name)");
-
-LabelRecord& RecordOf(const Page& page, const Control& label) {
-  return proposal.LabelRec[page.pageIndex][label.Index()];
-}
-
-/// Takes all but the caption from the label, and leaves the marks as they are.
-void CopyLook(const Control& label, LabelRecord& record) {
-  const Font& font = label.GetFont();
-  record.Left = label.Left();
-  record.Top = label.Top();
-  record.FontName = font.name;
-  record.FontSize = font.size;
-  record.FontBold = font.bold;
-  record.FontItalic = font.italic;
-  record.FontUnderline = font.underline;
-  record.ForeColor = label.ForeColor();
-}
 
 bool StandsCentred(const Control& label) {
   return std::abs(label.Left() + label.Width() / 2 - sheet::Centre) <= 1;
 }
 
 bool CountsAsChanged(const Page& page, const Control& label) {
-  return RecordOf(page, label).Changed || format.FormatLabelRec[page.pageIndex][label.Index()].Changed;
+  return proposal.LabelMarks[page.pageIndex][label.Index()].Changed ||
+         format.FormatLabelRec[page.pageIndex][label.Index()].Changed;
 }
 
 /// A label that a person has moved off the centre line stays where it was put; any other is centred again.
@@ -51,27 +36,19 @@ bool HasText(const Page& page) {
   return std::ranges::any_of(page.txt, [](const Control& area) { return !area.Text().trimmed().isEmpty(); });
 }
 
-void CopyToRecord(const Page& page, const Control& label) {
-  if (page.window == CopyOfPage6) return;
-  LabelRecord& record = RecordOf(page, label);
-  CopyLook(label, record);
-  record.Caption = label.Caption();
-}
-
 QString TitleOn(const Page& page) {
   if (page.window == CopyOfPage6) return proposal.Title + QStringLiteral(" - Client's Copy");
   return page.window == 5 ? proposal.Title + OurCopy : proposal.Title;
 }
 
-/// The record follows its label.  The caption enters it only where the label counts as changed: a stored
-/// caption on frmP1 is a title made by hand when the proposal is opened again.
-void RecordTitle(const Page& page, const Control& label) {
-  LabelRecord& record = RecordOf(page, label);
-  const LabelRecord before = record;
-  if (proposal.TitleByHand && page.window == 0) record.Changed = true;
-  CopyLook(label, record);
-  if (record.Changed) record.Caption = label.Caption();
-  if (record.Changed && record != before) record.Written = false;
+/// A title made by hand is a changed label of frmP1; one that changes with the title must be written anew.
+void WriteTitle(const Page& page, Control& label) {
+  const LabelValues before = ValuesOf(label);
+  CaptionCentred(page, label, TitleOn(page));
+  if (page.window == CopyOfPage6) return;
+  LabelMark& mark = proposal.LabelMarks[page.pageIndex][label.Index()];
+  const bool first = proposal.TitleByHand && page.window == 0 && !std::exchange(mark.Changed, true);
+  if (first || (mark.Changed && ValuesOf(label) != before)) mark.Written = false;
 }
 
 QString FrameCaption() {
@@ -80,16 +57,7 @@ QString FrameCaption() {
   return QStringLiteral("Quillane: Format File = ") + format.FormatName + QStringLiteral(" / ") + file;
 }
 
-/// Empty without a name; then the labels say that one is to come.
-QString TitleByName() {
-  return proposal.BaseName.isEmpty() ? QString() : QStringLiteral("Proposal for ") + proposal.BaseName;
-}
-
 }  // namespace
-
-int PageNumberLabel(const Page& page) {
-  return page.LastLabel() - (page.IsTotalsPage() ? 1 : 2);
-}
 
 QString TitleWithoutCopy(const QString& caption) {
   return caption.endsWith(OurCopy) ? caption.chopped(OurCopy.size()) : caption;
@@ -104,19 +72,17 @@ void FindHighestPage() {
   }
 }
 
-void UpdatePageNumbers(Titles titles) {
+void UpdatePageNumbers() {
   const int highest = proposal.HighestPage;
   for (int window = 0; window < PageCount; ++window) {
     Page& current = page(window);
     const int number = current.IsTotalsPage() ? highest : window + 1;
     const QString name = QStringLiteral("Page %1").arg(number);
-    Control& footer = current.lbl[PageNumberLabel(current)];
+    Control& footer = current.lbl[shape::PageNumberLabel(current.pageIndex)];
     footer.SetCaption(name + QStringLiteral(" of %1").arg(highest));
-    if (titles == Titles::Reset) CopyToRecord(current, footer);
     if (window == 0) continue;
     Control& heading = current.lbl[0];
-    CaptionCentred(current, heading, proposal.SubTitle + name);
-    if (titles == Titles::Reset) CopyToRecord(current, heading);
+    CaptionCentred(current, heading, proposal.SubTitleText + name);
   }
   frame()["lblHighestPage"].SetCaption(QStringLiteral("Utilizing %1 of 6 Available Pages").arg(highest));
 }
@@ -125,9 +91,7 @@ void UpdateEventNameLabels() {
   if (proposal.Title.isEmpty()) proposal.Title = TitleWithoutName;
   for (int window = 0; window < PageCount; ++window) {
     Page& current = page(window);
-    Control& label = current.lbl.back();
-    CaptionCentred(current, label, TitleOn(current));
-    if (window != CopyOfPage6) RecordTitle(current, label);
+    WriteTitle(current, current.lbl.back());
   }
   // Hidden and shown again, so that the frame's window looks at the caption too when the title is the same.
   Control& event = frame()["lblEvent"];
@@ -138,18 +102,19 @@ void UpdateEventNameLabels() {
 }
 
 ProposalTitles TitlesToEdit() {
-  return {page(0).lbl.back().Caption(), proposal.SubTitle};
+  return {page(0).lbl.back().Caption(), proposal.SubTitleText};
 }
 
 void SaveTitles(const ProposalTitles& titles) {
   const QString title = FoldToCodePage(titles.title);
-  const bool follows = title.trimmed().isEmpty() || title == TitleByName() || title == TitleWithoutName;
-  proposal.SubTitle = FoldToCodePage(titles.subTitle);
+  const bool follows =
+      title.trimmed().isEmpty() || title == TitleFor(proposal.BaseName) || title == TitleWithoutName;
+  proposal.SubTitleText = FoldToCodePage(titles.subTitle);
   proposal.TitleByHand = !follows;
-  proposal.Title = follows ? TitleByName() : title;
+  proposal.Title = follows ? TitleFor(proposal.BaseName) : title;
   UpdateEventNameLabels();
   FindHighestPage();
-  UpdatePageNumbers(Titles::Reset);
+  UpdatePageNumbers();
 }
 
 bool MakeSubTitleDefault(const QString& subTitle) {

@@ -8,16 +8,13 @@ namespace quillane {
 
 /// Works out proposal.HighestPage from the texts; keeps it when no page has any.
 void FindHighestPage();
-enum class Titles { Keep, Reset };  ///< Reset also copies each touched label into its LabelRec entry
 /// Writes the page numbers and headings by proposal.HighestPage, and the frame's label of the pages in use.
-void UpdatePageNumbers(Titles titles = Titles::Keep);
+void UpdatePageNumbers();
 /// Writes the title into all pages and the frame, and the frame's caption.  A title made by hand is marked as
 /// a changed label of frmP1, so that the property file keeps it; a title that only follows the client's name
 /// marks nothing.
 void UpdateEventNameLabels();
 
-/// The label of a page that says "Page 2 of 4".
-int PageNumberLabel(const Page& page);
 /// The title on frmP6 without the words that say whose copy that sheet is.
 QString TitleWithoutCopy(const QString& caption);
 

@@ -39,13 +39,8 @@ float ValueOf(const QString& trimmed) {
   return trimmed.isEmpty() ? 0.0F : ToSingle(trimmed);
 }
 
-bool Exempt(const Page& owner, int area) {
-  return owner.imgNoTax[area].Visible();
-}
-
 void EnterAmount(const Page& owner, int area, float value) {
   proposal.AreaAmount[owner.pageIndex][area] = value;
-  proposal.AreaTaxable[owner.pageIndex][area] = Exempt(owner, area) ? 0.0F : value;
 }
 
 /// The tax is worked out beyond double precision and rounded once, as it is stored.
@@ -110,7 +105,7 @@ void AddWhatStandsOn(Page& owner, Sums& sums) {
     if (!IsNumeric(text)) continue;
     const float value = ToSingle(text);
     sums.all = Checked(sums.all + value);
-    if (!Exempt(owner, control->Index())) sums.taxable = Checked(sums.taxable + value);
+    if (!owner.IsExempt(control->Index())) sums.taxable = Checked(sums.taxable + value);
   }
 }
 
@@ -175,6 +170,10 @@ bool MayMultiply(Product when) {
 
 }  // namespace
 
+float AreaTaxable(const Page& owner, int area) {
+  return owner.IsExempt(area) ? 0.0F : proposal.AreaAmount[owner.pageIndex][area];
+}
+
 void CalculateMyTotals(Page& owner) {
   if (!owner.IsItemPage()) return;
   float& all = proposal.PageSubTotal[owner.pageIndex];
@@ -182,9 +181,8 @@ void CalculateMyTotals(Page& owner) {
   all = 0;
   taxable = 0;
   for (int area = 0; area <= owner.LastText(); ++area) {
-    const float value = proposal.AreaAmount[owner.pageIndex][area];
-    all = Checked(all + value);
-    if (!Exempt(owner, area)) taxable = Checked(taxable + value);
+    all = Checked(all + proposal.AreaAmount[owner.pageIndex][area]);
+    taxable = Checked(taxable + AreaTaxable(owner, area));
   }
 }
 
@@ -241,9 +239,7 @@ void MultiplyRow(Page& owner, int row, Product when) {
 }
 
 void TotalsTextChanged(Page& owner, Control& area) {
-  if (owner.window != 5 || editing.RebuildingPages) return;
-  proposal.PageText[5][area.Index()] = area.Text().trimmed();
-  if (editing.OpeningFile) return;
+  if (owner.window != 5 || editing.RebuildingPages || editing.OpeningFile) return;
   page(CopyOfPage6).txt[area.Index()].SetText(area.Text());
   Guarded("txt_Change", [&] { TakeFigure(area); });
 }

@@ -4,6 +4,8 @@
 
 namespace quillane {
 
+/// The value of an amount area as far as it is taxed: 0 where it is exempt or empty.
+float AreaTaxable(const Page& page, int area);
 /// Recomputes PageSubTotal and PageTaxable of an item page.  Throws 6 when a sum leaves single precision.
 void CalculateMyTotals(Page& page);
 void CalculateAllPages();

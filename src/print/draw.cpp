@@ -87,6 +87,11 @@ void DrawRule(Surface& surface, const Control& line) {
                line.ForeColor(), HairLine);
 }
 
+bool IsRowWithColumns(const Control& area) {
+  const Page* owner = area.Array() == QLatin1String("txt") ? PageOf(area) : nullptr;
+  return owner && owner->HasColumns(area.Index());
+}
+
 }  // namespace
 
 float PrintedLeft(const Page& page, const Control& box, float textWidth) {
@@ -98,8 +103,8 @@ Box EditingBox(const Control& control) {
   switch (control.GetKind()) {
     case Kind::TextBox:
       // A row with columns ends short of the "@" behind it by as much as it begins early.
-      return {box.left - EditingInset, box.top,
-              box.width + (box.width == sheet::ColumnsWidth ? 0 : EditingInset), box.height};
+      return {box.left - EditingInset, box.top, box.width + (IsRowWithColumns(control) ? 0 : EditingInset),
+              box.height};
     case Kind::Picture:
       return {box.left, box.top, std::max(box.width, control.GetPicture().width),
               std::max(box.height, control.GetPicture().height)};

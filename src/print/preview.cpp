@@ -49,7 +49,7 @@ void OfferResume(bool resume) {
 
 /// A button took the focus when it was clicked; keys belong to the page again.
 void ReturnFocus() {
-  if (!editing.Focus || !PageOf(*editing.Focus)) FocusPage(page(editing.FrontWindow));
+  if (!editing.Focus || !PageOf(*editing.Focus)) FocusPage(page(editing.FrontWindow()));
 }
 
 void BeginPreview() {

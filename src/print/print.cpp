@@ -18,10 +18,10 @@ namespace {
 
 constexpr int TotalsPage = 5;
 
-/// The document that is being drawn; gone once "Cancel Print" has dropped it.
-std::unique_ptr<Surface>& Document() {
-  static std::unique_ptr<Surface> document;
-  return document;
+/// What is being drawn; gone once "Cancel Print" has dropped it.
+std::unique_ptr<Surface>& PrintJob() {
+  static std::unique_ptr<Surface> job;
+  return job;
 }
 
 QString& Message() {
@@ -42,15 +42,15 @@ QString PdfPath(const Page& printed) {
 }
 
 void DrawDocument(const Page& printed) {
-  Document() = desk().BeginDocument(printing.CurrentPrinter, DocumentName(printed), PdfPath(printed));
-  if (!Document()) Raise(errors::Printer, printing.CurrentPrinter);
+  PrintJob() = desk().BeginDocument(printing.CurrentPrinter, DocumentName(printed), PdfPath(printed));
+  if (!PrintJob()) Raise(errors::Printer, printing.CurrentPrinter);
   if (printing.PrinterXOffset != 0 || printing.PrinterYOffset != 0)
-    Document()->SetOrigin(printing.PrinterXOffset, printing.PrinterYOffset);
+    PrintJob()->SetOrigin(printing.PrinterXOffset, printing.PrinterYOffset);
   desk().ServeEvents();
-  if (!Document()) return;
-  DrawPage(*Document(), printed, DrawMode::Printing);
+  if (!PrintJob()) return;
+  DrawPage(*PrintJob(), printed, DrawMode::Printing);
   editing.ButtonPressed = false;
-  Document()->EndDoc();
+  PrintJob()->EndDoc();
 }
 
 void ReportPrintError(const RuntimeError& error) {
@@ -89,7 +89,7 @@ void BringSheetsUpToDate() {
 void PrepareDrawing() {
   if (TotalsAreStale()) RecalculateTotals(0);
   ReadPrinterOffsets();
-  ClearGrid(page(editing.FrontWindow));
+  ClearGrid(page(editing.FrontWindow()));
 }
 
 void PrintTheForm(const Page& printed) {
@@ -100,7 +100,7 @@ void PrintTheForm(const Page& printed) {
   } catch (const RuntimeError& error) {
     ReportPrintError(error);
   }
-  Document().reset();
+  PrintJob().reset();
 }
 
 void PrintPageCommand(int window) {
@@ -125,8 +125,8 @@ void PrintAllCommand() {
 
 void CancelPrint() {
   printing.PrintCancelled = true;
-  if (Document()) Document()->KillDoc();
-  Document().reset();
+  if (PrintJob()) PrintJob()->KillDoc();
+  PrintJob().reset();
   desk().CloseWindow(QStringLiteral("frmDialog"));
 }
 

@@ -248,11 +248,10 @@ void CopyTermsForSession() {
 void CopyForSession() {
   if (prefs.SessionCopiesTaken) return;
   proposal.UDP = prefs.DefaultFont;
-  if (!prefs.PageTitles.isEmpty()) proposal.SubTitle = prefs.PageTitles;
+  if (!prefs.PageTitles.isEmpty()) proposal.SubTitleText = prefs.PageTitles;
   if (!prefs.LogoFile.isEmpty()) {
-    proposal.LogoPath = prefs.LogoPath;
-    proposal.LogoLeft = format.LogoLeft = prefs.LogoLeft;
-    proposal.LogoTop = format.LogoTop = prefs.LogoTop;
+    format.LogoLeft = prefs.LogoLeft;
+    format.LogoTop = prefs.LogoTop;
   }
   format.FormatFolder = prefs.ProposalFolder;
   // Where the first reading failed and a proposal has been opened since, its folder is the open file's.

@@ -100,7 +100,7 @@ void FrameWindow::AddPageKeys() {
   for (const auto& [key, step] : {std::pair{Qt::Key_PageUp, -1}, std::pair{Qt::Key_PageDown, 1}}) {
     auto* turn = new QShortcut(QKeySequence(Qt::CTRL | key), this);
     connect(turn, &QShortcut::activated, this, [step = step] {
-      const int beside = editing.FrontWindow + step;
+      const int beside = editing.FrontWindow() + step;
       if (beside >= 0 && beside < PageCount) FrameClicked(QStringLiteral("imgPage(%1)").arg(beside));
     });
   }
@@ -233,7 +233,7 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
 bool FrameWindow::ReturnToSheet(const QEvent& event) {
   const int key = static_cast<const QKeyEvent&>(event).key();
   if (key != Qt::Key_Tab && key != Qt::Key_Backtab && key != Qt::Key_Escape) return false;
-  FocusPage(page(editing.FrontWindow));
+  FocusPage(page(editing.FrontWindow()));
   return true;
 }
 
@@ -250,10 +250,10 @@ void FrameWindow::changeEvent(QEvent* event) {
       FollowColours(*shown.key(), *shown.value());
   if (event->type() != QEvent::WindowStateChange) return;
   const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
-  if (before.testFlag(Qt::WindowMaximized) && windowState() == Qt::WindowNoState) CentreOnScreen();
+  if (before.testFlag(Qt::WindowMaximized) && windowState() == Qt::WindowNoState) CenterForm();
 }
 
-void FrameWindow::CentreOnScreen() {
+void FrameWindow::CenterForm() {
   QRect place = frameGeometry();
   place.moveCenter(screen()->availableGeometry().center());
   move(place.topLeft());

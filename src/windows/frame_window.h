@@ -62,7 +62,7 @@ class FrameWindow : public QMainWindow, private FormObserver {
   void FollowStrip(const Control& control);
 
   bool ReturnToSheet(const QEvent& event);
-  void CentreOnScreen();
+  void CenterForm();
 
   SheetView* sheet_ = nullptr;  // these are owned by the widget tree
   QScrollBar* scrollBar_ = nullptr;

@@ -172,7 +172,7 @@ QCheckBox* LabelPropsWindow::MakeStyle(const QString& name, const QString& capti
 }
 
 QGroupBox* LabelPropsWindow::MakeStyles() {
-  const LabelRecord& shown = labelEdit.CurrentLabelRec;
+  const LabelValues& shown = labelEdit.CurrentLabelRec;
   auto* box = new QGroupBox(QStringLiteral("Style"));
   auto* layout = new QHBoxLayout(box);
   layout->addWidget(

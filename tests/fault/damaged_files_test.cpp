@@ -3,7 +3,8 @@
 #include <random>
 
 #include "files/format_file.h"
-#include "pages/features.h"
+#include "model/event_bytes.h"
+#include "pages/show_document.h"
 #include "proposal_fixture.h"
 
 using namespace quillane;
@@ -43,9 +44,7 @@ class DamagedFiles : public test::ProposalTest {
     EXPECT_TRUE(Open("Damaged.wwf"));
     EXPECT_FALSE(ProposalHasChanged());
     ExpectGuardsAreDown();
-    SaveTextBoxFeatures();
-    ExpectGuardsAreDown();
-    return EventFileBytes().left(21780);
+    return EventFileBytes(ReadPages()).left(21780);
   }
   QByteArray OpenAndStore(const QByteArray& bytes) {
     Put("Damaged.wwf", bytes.leftJustified(22000, ' '));
@@ -92,8 +91,7 @@ TEST_F(DamagedFiles, OfPropertiesCostTheLookOnly) {
     EXPECT_FALSE(ProposalHasChanged());
     EXPECT_EQ(TextOf("frmP2.txt(0)"), "Ceremony Flowers");
     EXPECT_EQ(TextOf("frmP2.txtQty(2)"), "5");
-    SaveTextBoxFeatures();
-    EXPECT_EQ(EventFileBytes().left(21780), Sample("Emily Carter.wwf").left(21780));
+    EXPECT_EQ(EventFileBytes(ReadPages()).left(21780), Sample("Emily Carter.wwf").left(21780));
   }
 }
 

@@ -10,10 +10,12 @@
 #include "files/format_file.h"
 #include "files/new_proposal.h"
 #include "files/property_file.h"
-#include "files/property_lines.h"
+#include "model/document_lines.h"
+#include "model/property_lines.h"
 #include "model/proposal.h"
 #include "model/upcalls.h"
 #include "pages/defaults.h"
+#include "pages/show_document.h"
 #include "unit/fake_desk.h"
 
 namespace quillane::test {
@@ -149,8 +151,8 @@ QStringList AsProperties(const QByteArray& file) {
   StartAfresh();
   proposal.BaseName = QStringLiteral("Fuzz");
   Write(PropertyFolder() + QStringLiteral("Fuzz.wpf"), file);
-  ReadFileProperties();
-  return PropertyLinesNow();
+  ReadFileProperties(Document());
+  return PropertyLinesOf(ReadPages());
 }
 
 // Reading may repair a file once, and what is repaired twice alike could still be wrong from the start; so a

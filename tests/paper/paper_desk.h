@@ -90,7 +90,7 @@ struct FreshPages {
     prefs.CompanyName = QStringLiteral("Alder Events");
     prefs.CurrencySymbol = QStringLiteral("$");
     prefs.DefaultPrinter = QStringLiteral("PDF File");
-    proposal.SubTitle = QStringLiteral("Alder Events - Event Proposal - ");
+    proposal.SubTitleText = QStringLiteral("Alder Events - Event Proposal - ");
     const Scoped building(editing.RebuildingPages, true);
     SetUpPages();
     ShowDefaultPages();

@@ -360,7 +360,7 @@ TEST_F(Sheet, ReachesALabelUnderAnAreaWithCtrlAndScrollsUnderItsDrag) {
   EXPECT_TRUE(page(1).drag.Dragging) << "another button changes nothing";
   QTest::mouseRelease(&view, Qt::LeftButton, {}, under);
   EXPECT_EQ(Focus(), "frmP2.txt(5)");
-  EXPECT_TRUE(proposal.LabelRec[1][38].Changed);
+  EXPECT_TRUE(proposal.LabelMarks[1][38].Changed);
 }
 
 TEST_F(Sheet, NamesItsAreasForAScreenReader) {

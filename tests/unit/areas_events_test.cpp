@@ -6,7 +6,6 @@
 #include "item_pages.h"
 #include "model/focus.h"
 #include "pages/defaults.h"
-#include "pages/features.h"
 #include "platform/runtime_error.h"
 #include "typist.h"
 
@@ -51,7 +50,7 @@ TEST_F(Areas, TheClientsCopyTakesNoInputAndIsNeverThePageInUse) {
   typist.desk.clipboard = QStringLiteral("5");
   typist.CtrlV();
   EXPECT_EQ(At("frmP6_1.txt(0)").Text(), QString());
-  EXPECT_EQ(editing.CurrentForm, &page(1));
+  EXPECT_EQ(&editing.CurrentForm(), &page(1));
   EXPECT_EQ(editing.CurrentArea, 3);
   frame().clientHeight = 5000;
   typist.Key(keys::PageDown);

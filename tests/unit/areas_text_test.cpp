@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "pages/defaults.h"
-#include "pages/features.h"
 #include "typist.h"
 
 using namespace quillane;
@@ -119,12 +118,12 @@ TEST_F(Typing, GuardsAndSelectionsKeepTheHandlersAway) {
     Scoped scope(*guard, true);
     At("frmP2.txt(5)").SetText(QStringLiteral("guarded"));
     At("frmP2.txt(5)").SetText(QString());
-    EXPECT_EQ(proposal.PageText[1][5], BlankSlot());
+    EXPECT_EQ(editing.CurrentText, "");
   }
   Scoped selected(editing.AreasSelected, true);
   Scoped refire(editing.RecalcPending, true);
   At("frmP2.txt(5)").SetText(QStringLiteral("refired"));
-  EXPECT_EQ(proposal.PageText[1][5], "refired");
+  EXPECT_EQ(editing.CurrentText, "refired");
 }
 
 TEST_F(Typing, LetsOnlyFiguresIntoFigures) {
@@ -206,15 +205,6 @@ TEST_F(Typing, EveryTwentiethKeyTakesABackup) {
   typist.Key(keys::Enter);
   EXPECT_EQ(copies, 1);
   EXPECT_EQ(editing.KeysSinceBackup, 0);
-  Start("frmP1.txt(2)", QString());
-  typist.Type(Words(20));
-  EXPECT_EQ(copies, 1) << "not while the name is half typed";
-  proposal.FileIsNamed = true;
-  typist.Type(Words(20));
-  EXPECT_EQ(copies, 2);
-  proposal.OpenedFromBackup = true;
-  typist.Type(Words(20));
-  EXPECT_EQ(copies, 2) << "never over the copy that is open";
 }
 
 TEST_F(Typing, SettlingTakesTheAmountAndLeavesColourAndFocus) {

@@ -9,6 +9,7 @@
 #include "model/page.h"
 #include "model/proposal.h"
 #include "pages/defaults.h"
+#include "pages/fonts.h"
 #include "platform/runtime_error.h"
 
 using namespace quillane;
@@ -27,7 +28,7 @@ class DefaultPages : public testing::Test {
     prefs.CompanyFax = "(541) 555-0101";
     prefs.PageTitle = "Event Proposal";
     prefs.CurrencySymbol = "$";
-    proposal.SubTitle = "Alder Events - Event Proposal - ";
+    proposal.SubTitleText = "Alder Events - Event Proposal - ";
     SetUpPages();
     Show();
   }
@@ -121,16 +122,6 @@ TEST_F(DefaultPages, ShowOnlyWhatIsNotHidden) {
   EXPECT_TRUE(page(5).lbl[4].Visible());
 }
 
-TEST_F(DefaultPages, TakeBoldFromAnOpenFormatOnly) {
-  format.FormatTextRec[2][7].FontBold = true;
-  ShowPageControls(page(2));
-  EXPECT_FALSE(page(2).txt[7].GetFont().bold);
-  format.FormatIsOpen = true;
-  ShowPageControls(page(2));
-  EXPECT_TRUE(page(2).txt[7].GetFont().bold);
-  EXPECT_FALSE(page(2).txt[8].GetFont().bold);
-}
-
 TEST_F(DefaultPages, RuleBlocksFiguresAndContract) {
   Page& first = page(0);
   QList<int> shown;
@@ -170,7 +161,7 @@ TEST_F(DefaultPages, ReportColumnsThatFail) {
   page(3).form.textChanged = [](Control&) { Raise(errors::Subscript); };
   LoadColumns(page(3));
   EXPECT_EQ(desk_.LastSaid(), "Error in loading columns on Page 4.");
-  EXPECT_FALSE(page(3).columnsLoaded);
+  EXPECT_FALSE(page(3).ColumnsLoaded);
   EXPECT_FALSE(editing.RebuildingPages);
 }
 

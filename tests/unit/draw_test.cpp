@@ -12,8 +12,8 @@ using namespace quillane::test;
 
 namespace {
 
-Document DrawnOf(const Control& control, DrawMode mode, const Page& owner) {
-  Document document;
+Printout DrawnOf(const Control& control, DrawMode mode, const Page& owner) {
+  Printout document;
   RecordingSurface surface(document);
   DrawControl(surface, owner, control, mode);
   return document;
@@ -30,8 +30,8 @@ TEST(Draw, StandsAmountsAtTheRightEdgeOnPaperAndLeftOnTheScreen) {
     Control& box = *FindPageControl(name);
     box.SetShown(true);
     box.SetText(QStringLiteral("12.00"));
-    const Document paper = DrawnOf(box, DrawMode::Printing, *PageOf(box));
-    const Document screen = DrawnOf(box, DrawMode::Editing, *PageOf(box));
+    const Printout paper = DrawnOf(box, DrawMode::Printing, *PageOf(box));
+    const Printout screen = DrawnOf(box, DrawMode::Editing, *PageOf(box));
     ASSERT_EQ(paper.drawn.size(), 1U);
     EXPECT_EQ(paper.drawn[0].top, box.Top());
     EXPECT_FLOAT_EQ(right ? paper.drawn[0].right : paper.drawn[0].left,
@@ -63,7 +63,7 @@ TEST(Draw, GivesPaperTheRestingLook) {
   area.SetFont({QStringLiteral("Arial"), 10, true, true, true});
   area.SetBackColor(colors::Blue);
   area.SetForeColor(colors::White);
-  const Document paper = DrawnOf(area, DrawMode::Printing, page(1));
+  const Printout paper = DrawnOf(area, DrawMode::Printing, page(1));
   ASSERT_EQ(paper.drawn.size(), 1U);
   EXPECT_EQ(paper.drawn[0].color, 0x804020);
   EXPECT_EQ(paper.drawn[0].font, (Font{QStringLiteral("Arial"), 10, true, false, false}));
@@ -85,7 +85,7 @@ TEST(Draw, UnderlinesMainCategoriesOnly) {
     editing.UnderlineMainCategories = option;
     area.SetFontBold(bold);
     area.SetWidth(width);
-    const Document paper = DrawnOf(area, DrawMode::Printing, page(1));
+    const Printout paper = DrawnOf(area, DrawMode::Printing, page(1));
     const Drawn* line = paper.Find(QStringLiteral("line"));
     ASSERT_EQ(line != nullptr, underlined);
     if (!line) continue;
@@ -103,7 +103,7 @@ TEST(Draw, LeavesTheLogoWhereItStandsWhateverTheOffsets) {
   logo.SetLeft(720);
   logo.SetTop(540);
   logo.SetPicture({QStringLiteral("logo.jpg"), 3000, 1500});
-  Document document;
+  Printout document;
   RecordingSurface surface(document);
   surface.SetOrigin(360, -180);
   DrawControl(surface, page(0), logo, DrawMode::Printing);

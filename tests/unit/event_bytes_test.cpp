@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
+#include "model/event_bytes.h"
 
-#include "fake_desk.h"
-#include "files/event_file.h"
+#include <gtest/gtest.h>
 
 using namespace quillane;
 
@@ -9,9 +8,8 @@ namespace {
 
 class EventBytes : public testing::Test {
  protected:
-  void SetUp() override { ResetState(); }
-  QString& Text(int p, int i) { return proposal.PageText[p][i]; }
-  test::FakeDesk desk_;
+  QString& Text(int p, int i) { return document.TextRec[p][i].Text; }
+  Document document;
 };
 
 QString Line(int length) {
@@ -28,9 +26,9 @@ TEST_F(EventBytes, LieAtTheirOffsetsInAFileOfOneLength) {
                         {1, 34, 6260},  {1, 35, 6380}, {2, 0, 7080},  {3, 0, 11980}, {4, 0, 16880},
                         {4, 69, 21760}, {5, 0, 21780}, {5, 4, 21860}, {5, 5, 21880}};
   for (const Case& c : cases) {
-    ResetState();
+    document = {};
     Text(c.page, c.area) = QStringLiteral("mark");
-    const QByteArray bytes = EventFileBytes();
+    const QByteArray bytes = EventFileBytes(document);
     EXPECT_EQ(bytes.size(), 22000);
     EXPECT_EQ(bytes.indexOf("mark"), c.offset) << c.page << " " << c.area;
     EXPECT_EQ(bytes.count(' '), 22000 - 4);
@@ -43,9 +41,9 @@ TEST_F(EventBytes, AFieldEndsAtItsWidthAndTheMarkTakesALastCharacter) {
   Text(1, 35) = QStringLiteral("12345678901234567890");
   Text(1, 36) = QStringLiteral("7");
   Text(4, 69) = QStringLiteral("12345678901234567890");
-  proposal.TextRec[1][35].TaxExempt = true;
-  proposal.TextRec[4][69].TaxExempt = true;
-  const QByteArray bytes = EventFileBytes();
+  document.TextRec[1][35].TaxExempt = true;
+  document.TextRec[4][69].TaxExempt = true;
+  const QByteArray bytes = EventFileBytes(document);
   EXPECT_EQ(bytes.mid(0, 29), QByteArray(25, 'x') + "next");
   EXPECT_EQ(bytes.mid(6380, 21), QByteArray("\xD8"
                                             "1234567890123456789"
@@ -59,10 +57,10 @@ TEST_F(EventBytes, AFieldEndsAtItsWidthAndTheMarkTakesALastCharacter) {
 TEST_F(EventBytes, KeepEveryByteThroughWritingAndReading) {
   for (int c = 0x20; c < 0x100; ++c) {
     QByteArray bytes(22000, ' ');
-    bytes.replace(2180, 3, QByteArray(3, static_cast<char>(c)));
+    bytes.replace(2180, 3, QByteArray("a*a").replace('*', static_cast<char>(c)));
     const EventFields fields = ReadEventFields(bytes);
     Text(1, 0) = fields.text[1][0];
-    EXPECT_EQ(EventFileBytes(), bytes) << c;
+    EXPECT_EQ(EventFileBytes(document), bytes) << c;
   }
 }
 

@@ -93,7 +93,7 @@ TEST_F(Grid, OnlyTheFirstPageIsAligned) {
                         {1, 180, -500, -500}};
   for (const Case& test : cases) {
     SCOPED_TRACE(test.top);
-    editing.FrontWindow = test.front;
+    editing.CurrentPage = test.front;
     layoutAids.SnapValue = test.snap;
     frame().sheetTop = test.top;
     AlignFormToSnap();
@@ -109,7 +109,7 @@ TEST_F(Grid, ADrawingGoesWithItsPageAndBeforeAPrint) {
   EXPECT_TRUE(layoutAids.gridDrawn[0]);
   ReAdjustScrollBar(0);
   EXPECT_FALSE(layoutAids.gridDrawn[0]);
-  editing.FrontWindow = 2;
+  editing.CurrentPage = 2;
   DrawGridCommand();
   redrawn = -1;
   PrepareDrawing();

@@ -13,7 +13,7 @@ namespace {
 class Labels : public ProposalTest {
  protected:
   static Control& Label(int window, int index) { return page(window).lbl[index]; }
-  static LabelRecord& Stored(int p, int n) { return proposal.LabelRec[p][n]; }
+  static LabelMark& Stored(int p, int n) { return proposal.LabelMarks[p][n]; }
 
   /// Presses inside the label, moves the pointer there by there, as the viewer tells it, and lets go.
   static void Drag(Control& label, float dx, float dy) {
@@ -72,12 +72,8 @@ TEST_F(Labels, OnlyALabelThatMovedIsStored) {
   label.SetFontUnderline(true);
   Drag(label, 360, 180);
   EXPECT_EQ(label.ToolTip(), "Left = 5.25, Top = 0.75");
-  LabelRecord expected = ValuesOf(label);
-  expected.Changed = true;
-  EXPECT_EQ(expected.Left, 7560);
-  EXPECT_EQ(Stored(0, 9), expected);
-  EXPECT_EQ(format.FormatLabelRec[0][9], expected);
-  EXPECT_TRUE(PropertyLinesNow().join('\n').contains("frmP1.lbl(9)"));
+  EXPECT_TRUE(Stored(0, 9).Changed && format.FormatLabelRec[0][9].Changed);
+  EXPECT_TRUE(PropertyLinesOf(ReadPages()).join('\n').contains("frmP1.lbl(9).Left=7560"));
 }
 
 TEST_F(Labels, TheCopyFollowsPage6WhenTheLabelIsLetGo) {
@@ -119,7 +115,7 @@ TEST_F(Labels, TheLinkLeadsToTheNextPage) {
       UpdatePageButtons(0);
       lbl_Click(Label(window, label.Index()));
       const bool link = window >= 1 && window <= 4 && label.Index() == 37;
-      ASSERT_EQ(editing.FrontWindow, link ? window + 1 : 0);
+      ASSERT_EQ(editing.FrontWindow(), link ? window + 1 : 0);
       ASSERT_EQ(PointerOver(label) == MousePointer::Link, link);
     }
   }
@@ -128,7 +124,6 @@ TEST_F(Labels, TheLinkLeadsToTheNextPage) {
 TEST_F(Labels, SelectAllMarksAllButTheCurrencySigns) {
   for (const auto& [window, signs] : Cases<int, int>{{0, 8}, {1, 35}, {5, 6}}) {
     Page& front = page(window);
-    editing.CurrentForm = &front;
     editing.CurrentPage = window;
     SelectAllLabels();
     EXPECT_EQ(MarkedLabels(front), static_cast<int>(front.lbl.size()) - signs);
@@ -148,7 +143,7 @@ TEST_F(Labels, ASelectionShowsWhatItsLabelsHaveInCommon) {
   Label(0, 35).SetFontName("Courier");  // a currency sign is left out
   Label(0, 44).SetFontSize(20);
   SelectAllLabels();
-  const LabelRecord& common = labelEdit.CurrentLabelRec;
+  const LabelValues& common = labelEdit.CurrentLabelRec;
   EXPECT_EQ(common.FontName, "Arial");
   EXPECT_EQ(common.FontSize, 0);
   EXPECT_TRUE(common.FontBold && common.FontUnderline);
@@ -160,7 +155,7 @@ TEST_F(Labels, ASelectionShowsWhatItsLabelsHaveInCommon) {
 }
 
 TEST_F(Labels, ThePropertiesAreThoseOfTheLabelLastPressedOnThisPage) {
-  editing.CurrentForm = &page(5);
+  editing.CurrentPage = 5;
   lbl_MouseDown(Label(5, 60), MouseButton::Right, 0, 0);
   Label(5, 60).SetCaption("Changed since");
   EditLabelProps();
@@ -170,15 +165,15 @@ TEST_F(Labels, ThePropertiesAreThoseOfTheLabelLastPressedOnThisPage) {
   EXPECT_EQ(desk_.shown.size(), 1) << "the window is there already";
 
   desk_.shown.clear();
-  editing.CurrentForm = &page(1);  // which has no label 60
+  editing.CurrentPage = 1;  // which has no label 60
   EditLabelProps();
   EXPECT_EQ(labelEdit.CurrentLabel, 0);
   EXPECT_EQ(labelEdit.CurrentLabelRec.Caption, Label(1, 0).Caption());
 }
 
 TEST_F(Labels, AnIndexBeyondTheTablesIsRefused) {
-  EXPECT_THROW(StoreLabel(65), RuntimeError);
-  EXPECT_THROW(StoreLabel(-1), RuntimeError);
+  EXPECT_THROW(StoreLabel(page(5), 65), RuntimeError);
+  EXPECT_THROW(StoreLabel(page(0), -1), RuntimeError);
   labelEdit.CurrentLabel = 46;
   EXPECT_THROW(LoadCurrentLabel(), RuntimeError);
 }
@@ -192,8 +187,6 @@ TEST_F(Labels, TheLogoIsDraggedAsLabelsAre) {
   pic_MouseUp(logo);
   EXPECT_EQ(logo.Left(), 1180);
   EXPECT_EQ(logo.Top(), 500);
-  EXPECT_EQ(proposal.LogoLeft, 1180);
-  EXPECT_EQ(proposal.LogoTop, 500);
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ TEST_F(NewProposal, TakesFontAndSubtitleFromThePreferences) {
   EXPECT_EQ(proposal.UDP, prefs.DefaultFont);
   EXPECT_EQ(At("frmP5.txt(69)").GetFont(), (Font{"Times New Roman", 8, false, true, false}));
   EXPECT_EQ(At("frmP5.txt(69)").ForeColor(), 255);
-  EXPECT_EQ(proposal.SubTitle, "Alder Events - Event Proposal - ");
+  EXPECT_EQ(proposal.SubTitleText, "Alder Events - Event Proposal - ");
   EXPECT_EQ(At("frmP3.lbl(0)").Caption(), "Alder Events - Event Proposal - Page 3");
   prefs.PageTitles = "Spring Fair, ";
   StartNewFile();
@@ -67,11 +67,9 @@ TEST_F(NewProposal, TakesFontAndSubtitleFromThePreferences) {
 }
 
 TEST_F(NewProposal, WithoutAFormatNothingStaysInItsLayer) {
-  At("frmP2.txt(4)").SetText("Pews");
   format.FormatLabelRec[1][0].Changed = true;
   StartNewFile();
-  EXPECT_EQ(format.FormatTextRec, TextTable());
-  EXPECT_EQ(format.FormatLabelRec, LabelTable());
+  EXPECT_EQ(format.FormatLabelRec, FormatLabelTable());
 }
 
 TEST_F(NewProposal, AsksBeforeItEndsAFormatSession) {

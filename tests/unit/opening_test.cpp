@@ -102,10 +102,9 @@ TEST_F(Opening, ReadsAmountsAndTheirMarks) {
     EXPECT_EQ(TextOf("frmP2.txt(39)"), c.shown) << c.stored;
     EXPECT_EQ(At("frmP2.imgNoTax(39)").Visible(), c.exempt) << c.stored;
     EXPECT_EQ(At("frmP2.imgNoTax(39)").Hidden(), !c.exempt) << c.stored;
-    EXPECT_EQ(proposal.TextRec[1][39].TaxExempt, c.exempt) << c.stored;
     EXPECT_EQ(At("frmP2.lbl(5)").Visible(), c.currency) << c.stored;
     EXPECT_EQ(proposal.AreaAmount[1][39], c.amount) << c.stored;
-    EXPECT_EQ(proposal.AreaTaxable[1][39], c.taxable) << c.stored;
+    EXPECT_EQ(AreaTaxable(page(1), 39), c.taxable) << c.stored;
     EXPECT_EQ(proposal.PageSubTotal[1], c.amount) << c.stored;
     EXPECT_EQ(proposal.PageTaxable[1], c.taxable) << c.stored;
     EXPECT_EQ(Said(), QStringList()) << c.stored;
@@ -159,7 +158,7 @@ TEST_F(Opening, AppliesThePropertyFile) {
     EXPECT_EQ(At(name).Caption(), "Deposits are not refundable after June 1.");
     EXPECT_TRUE(At(name).GetFont().italic);  // the line is of the older, shorter form
   }
-  EXPECT_TRUE(proposal.LabelRec[5][17].Changed && proposal.LabelRec[5][17].Written);
+  EXPECT_TRUE(proposal.LabelMarks[5][17].Changed && proposal.LabelMarks[5][17].Written);
   EXPECT_FALSE(ProposalHasChanged());
 
   // A save writes the same lines, the short one in full.
@@ -170,8 +169,7 @@ TEST_F(Opening, AppliesThePropertyFile) {
                                        ".ForeColor=0 .FontItalic=True .FontUnderline=False\r\n"));
   EXPECT_FALSE(ProposalHasChanged());
 
-  fileDialog.IgnoreProperties = true;
-  ASSERT_TRUE(Open("Emily Carter.wwf"));
+  ASSERT_TRUE(OpenEventFile(PathOf("Emily Carter.wwf"), Properties::Ignored));
   EXPECT_FALSE(At("frmP2.txt(6)").GetFont().bold);
   EXPECT_TRUE(page(1).HasColumns(2));
 }

@@ -52,8 +52,8 @@ QString Read() {
          Values();
 }
 QString Session() {
-  return Joined(proposal.SubTitle, proposal.UDP.FontName, proposal.CurrentFolder, format.FormatFolder,
-                terms.FileName, proposal.LogoLeft, format.LogoTop, terms.FileLoaded, terms.AutoComplete,
+  return Joined(proposal.SubTitleText, proposal.UDP.FontName, proposal.CurrentFolder, format.FormatFolder,
+                terms.FileName, format.LogoLeft, format.LogoTop, terms.FileLoaded, terms.AutoComplete,
                 terms.AutoStart);
 }
 
@@ -77,8 +77,8 @@ TEST_F(PreferencesFile, EveryLineReachesItsSettingAndTheSession) {
 
   // A later reading leaves what the session has changed.
   proposal.UDP.FontName = "Arial";
-  proposal.SubTitle = "By hand - ";
-  proposal.LogoLeft = 10;
+  proposal.SubTitleText = "By hand - ";
+  format.LogoLeft = 10;
   proposal.CurrentFolder = "/elsewhere/";
   format.FormatFolder = "/formats/";
   terms = {"Mine.fut", false, false, 7};

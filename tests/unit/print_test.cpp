@@ -22,7 +22,7 @@ namespace {
 /// A desk with printers: every document is kept.
 class PrintDesk : public FakeDesk {
  public:
-  std::list<Document> documents;
+  std::list<Printout> documents;
   QString systemPrinter = QStringLiteral("Office Laser");
   int failure = 0;  ///< the error with which a document, or a question for the printers, fails
   std::function<void()> onServe;
@@ -74,7 +74,7 @@ TEST_F(Print, PagesInUseComeLastPageFirst) {
     Write(lastPage, "Lilies");
     PrintAllCommand();
     QStringList printed;
-    for (const Document& document : desk.documents) {
+    for (const Printout& document : desk.documents) {
       EXPECT_TRUE(document.ended && document.title.startsWith("Proposal - Page "));
       printed << document.title.mid(16);
     }

@@ -1,4 +1,4 @@
-#include "files/property_lines.h"
+#include "model/property_lines.h"
 
 #include <gtest/gtest.h>
 
@@ -73,7 +73,7 @@ TEST(PropertyLines, ThatAreMalformedThrow) {
 }
 
 TEST(PropertyLines, ReadBackWhatWasWritten) {
-  LabelRecord record;
+  LabelValues record;
   record.Left = 1234.5F;
   record.Top = -0.25F;
   record.Caption = "50% \"off\" %1 (net) \u00A5";
@@ -81,7 +81,7 @@ TEST(PropertyLines, ReadBackWhatWasWritten) {
   record.FontSize = 9.75F;
   record.ForeColor = 0x00FF80;
   record.FontBold = record.FontItalic = record.FontUnderline = true;
-  LabelRecord read;
+  LabelValues read;
   TakeLabelValues(ParseLine(LabelLine(3, 38, record)), read);
   EXPECT_EQ(read, record);
   record.Caption = "two\nlines\r\nthree";

@@ -13,11 +13,14 @@
 #include "files/event_file.h"
 #include "files/new_proposal.h"
 #include "files/property_file.h"
+#include "model/document_lines.h"
 #include "model/focus.h"
 #include "model/frame.h"
 #include "model/proposal.h"
 #include "model/upcalls.h"
 #include "pages/defaults.h"
+#include "pages/fonts.h"
+#include "pages/show_document.h"
 #include "pages/totals.h"
 #include "platform/files.h"
 #include "settings/preferences.h"
@@ -67,9 +70,7 @@ class ProposalTest : public testing::Test {
 
   /// Opens a file of the proposal folder, or of a folder below it.
   static bool Open(const QString& name, const QString& subFolder = QString()) {
-    fileDialog.Folder = prefs.ProposalFolder + subFolder;
-    fileDialog.SelectedFileName = name;
-    return OpenEventFile();
+    return OpenEventFile(WithSeparator(prefs.ProposalFolder + subFolder) + name);
   }
   /// As a person would: typed, then left.
   static void Type(const QString& name, const QString& text) {

@@ -15,7 +15,7 @@ struct Drawn {
 };
 
 /// What became of a document; it outlives the surface.
-struct Document {
+struct Printout {
   QString printer, title, path;
   std::vector<Drawn> drawn;
   bool ended = false, killed = false;
@@ -29,7 +29,7 @@ struct Document {
 
 class RecordingSurface : public Surface {
  public:
-  explicit RecordingSurface(Document& document) : document_(document) {}
+  explicit RecordingSurface(Printout& document) : document_(document) {}
 
   void SetOrigin(float left, float top) override { left_ = left, top_ = top; }
   float ScaleLeft() const override { return left_; }
@@ -55,7 +55,7 @@ class RecordingSurface : public Surface {
     document_.drawn.push_back({what, left - left_, top - top_, right - left_, bottom - top_, font_, color});
   }
 
-  Document& document_;
+  Printout& document_;
   Font font_;
   Color color_ = 0;
   float left_ = 0, top_ = 0;

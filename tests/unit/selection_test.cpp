@@ -24,28 +24,33 @@ class Selection : public testing::Test {
   static void Fill(int window, int row, const QString& text, const QString& amount, bool columns = false,
                    bool bold = false, bool exempt = false) {
     Page& there = page(window);
-    WriteAmount(there, row + there.AmountOffset(), {amount, false, exempt});
-    WriteRow(there, row,
-             {text, bold, columns ? QStringLiteral("3") : QStringLiteral("Hide"),
-              columns ? QStringLiteral("5.00") : QString()});
+    TextAreaRecord record;
+    record.Text = amount;
+    record.TaxExempt = exempt;
+    WriteArea(there, row + there.AmountOffset(), record);
+    record = {};
+    record.Text = text;
+    record.FontBold = bold;
+    record.QtyBox = columns;
+    record.QtyValue = "3";
+    record.AmtValue = "5.00";
+    WriteArea(there, row, record);
   }
 
   static void Select(int window, int first, int last, bool amounts = true) {
     Page& there = page(window);
-    editing.CurrentForm = &there;
     editing.CurrentPage = window;
     const float top = Area(there, first).Top() - 1;
     RubberBandSelect(there, {0, top, amounts ? 12000.0F : 9800.0F, Area(there, last).Top() + 256});
   }
 
   static void PutCaret(int window, int area) {
-    editing.CurrentForm = &page(window);
     editing.CurrentPage = window;
     editing.CurrentArea = area;
   }
 
   static QString TextAt(int window, int area) { return Area(page(window), area).Text(); }
-  static QString Stored(int window, int area) { return proposal.PageText[window][area].trimmed(); }
+  static QString Stored(int window, int area) { return StoredForm(page(window), area); }
 
   FakeDesk desk;
 };

@@ -47,7 +47,7 @@ TEST_F(Startup, ProgramFolderIsFilledOnceAndNeverOverwritten) {
 TEST_F(Startup, APageOutsideClearsTheButtonsOnly) {
   UpdatePageButtons(2);
   UpdatePageButtons(9);
-  EXPECT_EQ(editing.FrontWindow, 2);
+  EXPECT_EQ(editing.FrontWindow(), 2);
   EXPECT_EQ(frame()["imgPage(2)"].GetPicture().source, ":/icons/page-3.svg");
 }
 

@@ -17,7 +17,7 @@ class TitlesOfPages : public testing::Test {
  protected:
   void SetUp() override {
     ResetState();
-    proposal.SubTitle = "Alder Events - ";
+    proposal.SubTitleText = "Alder Events - ";
     ShowDefaultPages();
   }
   static float CentreOf(const Control& label) { return label.Left() + label.Width() / 2; }
@@ -47,18 +47,14 @@ TEST_F(TitlesOfPages, NumberThePagesByThoseInUse) {
     const QString of = QString(" of %1").arg(highest), last = QString("Page %1").arg(highest);
     for (int window = 0; window < PageCount; ++window) {
       const QString number = window < 5 ? QString("Page %1").arg(window + 1) : last;
-      EXPECT_EQ(page(window).lbl[PageNumberLabel(page(window))].Caption(), number + of);
+      EXPECT_EQ(page(window).lbl[shape::PageNumberLabel(page(window).pageIndex)].Caption(), number + of);
       if (window == 0) continue;
       EXPECT_EQ(page(window).lbl[0].Caption(), "Alder Events - " + number);
       EXPECT_FLOAT_EQ(CentreOf(page(window).lbl[0]), 6120);
     }
     EXPECT_EQ(frame()["lblHighestPage"].Caption(), QString("Utilizing %1 of 6 Available Pages").arg(highest));
   }
-  EXPECT_TRUE(proposal.LabelRec[1][0].Caption.isEmpty());
-  UpdatePageNumbers(Titles::Reset);
-  EXPECT_EQ(proposal.LabelRec[1][0].Caption, "Alder Events - Page 2");
-  EXPECT_EQ(proposal.LabelRec[5][63].Top, 15030);
-  EXPECT_FALSE(proposal.LabelRec[1][0].Changed);
+  EXPECT_FALSE(proposal.LabelMarks[1][0].Changed);
 }
 
 TEST_F(TitlesOfPages, WriteTheTitleEverywhere) {
@@ -73,7 +69,7 @@ TEST_F(TitlesOfPages, WriteTheTitleEverywhere) {
   }
   EXPECT_EQ(frame()["lblEvent"].Caption(), "Title: Proposal for Emily Carter");
   EXPECT_EQ(frame().form.caption, "Quillane: File Name = Emily Carter.wwf");
-  EXPECT_FALSE(proposal.LabelRec[0][45].Changed);
+  EXPECT_FALSE(proposal.LabelMarks[0][45].Changed);
   format.FormatIsOpen = true;
   format.FormatName = "Spring.wft";
   UpdateEventNameLabels();
@@ -84,10 +80,9 @@ TEST_F(TitlesOfPages, StoreATitleMadeByHandOnce) {
   proposal.Title = "The Carter Wedding";
   proposal.TitleByHand = true;
   UpdateEventNameLabels();
-  LabelRecord& record = proposal.LabelRec[0][45];
+  LabelMark& record = proposal.LabelMarks[0][45];
   EXPECT_TRUE(record.Changed);
   EXPECT_FALSE(record.Written);
-  EXPECT_EQ(record.Caption, "The Carter Wedding");
   record.Written = true;
   UpdateEventNameLabels();
   EXPECT_TRUE(record.Written) << "refreshing it is no change";
@@ -100,13 +95,11 @@ TEST_F(TitlesOfPages, LeaveALabelThatWasMovedWhereItIs) {
   UpdateEventNameLabels();
   Control& moved = page(2).lbl[38];
   moved.SetLeft(700);
-  proposal.LabelRec[2][38].Changed = true;
+  proposal.LabelMarks[2][38].Changed = true;
   proposal.Title = "Proposal for Emily Carter";
   UpdateEventNameLabels();
   EXPECT_EQ(moved.Left(), 700);
   EXPECT_EQ(moved.Caption(), "Proposal for Emily Carter");
-  EXPECT_EQ(proposal.LabelRec[2][38].Caption, "Proposal for Emily Carter")
-      << "a marked record follows its label";
 }
 
 TEST_F(TitlesOfPages, AreMadeByHandOrFollowTheName) {

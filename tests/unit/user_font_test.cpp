@@ -23,8 +23,8 @@ TEST_F(UserFontTest, ReachesEveryAreaAndLeavesBoldAndBlueAlone) {
   EXPECT_EQ(At("frmP3.txt(4)").ForeColor(), colors::White);
   EXPECT_FALSE(editing.ApplyingFonts);
   EXPECT_TRUE(PropertiesHaveChanged()) << "the font belongs to the property file";
-  EXPECT_TRUE(
-      PropertyLinesNow().contains("UDP.FontName=No Such Font .FontSize=8 .FontColor=255 .FontItalic=True"));
+  EXPECT_TRUE(PropertyLinesOf(ReadPages())
+                  .contains("UDP.FontName=No Such Font .FontSize=8 .FontColor=255 .FontItalic=True"));
 }
 
 TEST_F(UserFontTest, ShowsAtOnceWhatHasBecomeTooWide) {

@@ -167,7 +167,7 @@ Target Player::Find(const ControlName& name) const {
     if (!name.form.isEmpty()) return InWindow(target, OpenWindow(name.form), name.control);
     for (const QWidget* window : {Front(), program ? static_cast<QWidget*>(program->Window()) : nullptr})
       if (window && InWindow(target, *window, name.control)) return true;
-    return InPage(target, quillane::page(editing.FrontWindow), name.control);
+    return InPage(target, quillane::page(editing.FrontWindow()), name.control);
   };
   if (!found()) throw Failure(QStringLiteral("a control ") + target.name, QStringLiteral("there is none"));
   return target;

@@ -229,7 +229,7 @@ Found ReadPage(const Page& page, const QString& name) {
   const QString wanted = name.toLower();
   if (wanted == QLatin1String("tag")) return Value{Text, page.tag};
   if (wanted == QLatin1String("caption")) return Value{Caption, page.form.caption};
-  if (wanted == QLatin1String("visible")) return Value{Boolean, editing.FrontWindow == page.window};
+  if (wanted == QLatin1String("visible")) return Value{Boolean, editing.FrontWindow() == page.window};
   return std::nullopt;
 }
 

@@ -187,7 +187,7 @@ void ExpectFocus(Player& player, const Args& args) {
 void ExpectFront(Player& player, const Args& args) {
   const QWidget* front = player.Front();
   QString name = front ? front->objectName() : QStringLiteral("nothing");
-  if (const Page* wanted = FindPage(args.Text(0)); wanted && editing.FrontWindow == wanted->window)
+  if (const Page* wanted = FindPage(args.Text(0)); wanted && editing.FrontWindow() == wanted->window)
     name = page(player.Sheet().CurrentWindow()).form.name;
   if (name.compare(args.Text(0), Qt::CaseInsensitive) != 0)
     throw Failure(args.Text(0) + QStringLiteral(" in front"), name);

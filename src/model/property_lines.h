@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <map>
 
-#include "model/proposal.h"
+#include "model/document.h"
 
 namespace quillane {
 
@@ -42,7 +42,7 @@ QString ColumnsLine(int page, int row, const QString& quantity, const QString& e
 QString TextLine(int page, int area, const QString& text);
 QString ExemptLine(int page, int area);
 QString LogoLine(const QString& path, float left, float top);
-QString LabelLine(int page, int label, const LabelRecord& record);
+QString LabelLine(int page, int label, const LabelValues& record);
 QString UserFontLine(const UserFont& font);
 
 /// The lines of a property or format file.  Throws what ReadWholeFile throws.
@@ -50,8 +50,8 @@ QStringList ReadPropertyLines(const QString& path);
 /// The bytes of such a file, each line with its end.
 QByteArray BytesOfLines(const QStringList& lines);
 
-/// The nine values of a label line, as the record keeps them; FontItalic and FontUnderline stay as they are
+/// The nine values of a label line, as a record keeps them; FontItalic and FontUnderline stay as they are
 /// in `record` when an older line does not state them.
-void TakeLabelValues(const PropertyLine& line, LabelRecord& record);
+void TakeLabelValues(const PropertyLine& line, LabelValues& record);
 
 }  // namespace quillane

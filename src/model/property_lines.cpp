@@ -1,4 +1,4 @@
-#include "files/property_lines.h"
+#include "model/property_lines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -82,7 +82,7 @@ const WordSpec* FindWord(QStringView name) {
 
 int PageNamed(QStringView name) {
   for (int p = 0; p < IndexedPages; ++p)
-    if (page(p).form.name == name) return p;
+    if (shape::PageName(p) == name) return p;
   return -1;
 }
 
@@ -125,7 +125,7 @@ QString FlagText(bool value) {
 }
 
 QString ControlName(int pageIndex, const char* array, int index) {
-  return QStringLiteral("%1.%2(%3)").arg(page(pageIndex).form.name, QString::fromLatin1(array)).arg(index);
+  return QStringLiteral("%1.%2(%3)").arg(shape::PageName(pageIndex), QString::fromLatin1(array)).arg(index);
 }
 
 // A line is a line: a caption that holds a line break would cut it in two.
@@ -216,7 +216,7 @@ QString LogoLine(const QString& path, float left, float top) {
          QStringLiteral(" .Top=") + SingleText(top);
 }
 
-QString LabelLine(int pageIndex, int label, const LabelRecord& record) {
+QString LabelLine(int pageIndex, int label, const LabelValues& record) {
   // Joined piece by piece: a caption may hold "%1".
   return ControlName(pageIndex, "lbl", label) + QStringLiteral(".Left=") + SingleText(record.Left) +
          QStringLiteral(" .Top=") + SingleText(record.Top) + QStringLiteral(" .Caption=") +
@@ -245,7 +245,7 @@ QByteArray BytesOfLines(const QStringList& lines) {
   return bytes;
 }
 
-void TakeLabelValues(const PropertyLine& line, LabelRecord& record) {
+void TakeLabelValues(const PropertyLine& line, LabelValues& record) {
   record.Left = line.Place("Left");
   record.Top = line.Place("Top");
   record.Caption = line.Text("Caption");
