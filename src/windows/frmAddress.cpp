@@ -217,7 +217,7 @@ void AddressWindow::done(int result) {
   QDialog::done(result);
   if (editing.Quitting) return;
   if (QWidget* main = parentWidget()) main->activateWindow();
-  Guarded("Form_Unload", [] { FocusPage(page(editing.FrontWindow)); });
+  Guarded("Form_Unload", [] { FocusPage(page(editing.FrontWindow())); });
 }
 
 void AddressWindow::reject() {
