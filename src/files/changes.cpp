@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "model/document_lines.h"
 #include "model/proposal.h"
 #include "pages/show_document.h"
 
@@ -19,16 +18,32 @@ bool SameText(const TextAreaRecord& left, const TextAreaRecord& right) {
   return StoredForm(left).trimmed() == StoredForm(right).trimmed();
 }
 
+bool HoldsPageNumber(int p, int label) {
+  return label == shape::PageNumberLabel(p) || (p > 0 && label == 0);
+}
+
 // The program writes page numbers anew whenever pages come or go, and that is no change of a label.
-Document WithoutPageNumbers(Document document) {
-  for (int p = 0; p < IndexedPages; ++p)
-    for (const int label : {0, shape::PageNumberLabel(p)}) {
-      if (p == 0 && label == 0) continue;
-      QString& caption = document.LabelRec[p][label].Caption;
-      if (const qsizetype number = caption.lastIndexOf(QLatin1String("Page ")); number >= 0)
-        caption.truncate(number);
+bool SameLabel(int p, int n, LabelRecord left, LabelRecord right) {
+  if (HoldsPageNumber(p, n))
+    for (QString* caption : {&left.Caption, &right.Caption})
+      if (const qsizetype number = caption->lastIndexOf(QLatin1String("Page ")); number >= 0)
+        caption->truncate(number);
+  return left == right;
+}
+
+// What the property file tells of the two is the same.
+bool SameLook(const Document& left, const Document& right) {
+  for (int p = 0; p < ItemPages; ++p)
+    for (int i = 0; i < AreaCount(p); ++i) {
+      const TextAreaRecord &one = left.TextRec[p][i], &other = right.TextRec[p][i];
+      if (one.FontBold != other.FontBold || one.QtyBox != other.QtyBox) return false;
     }
-  return document;
+  for (int p = 0; p < IndexedPages; ++p)
+    for (int n = 0; n < shape::LabelCount(p); ++n) {
+      const LabelRecord &one = left.LabelRec[p][n], &other = right.LabelRec[p][n];
+      if ((one.Changed || other.Changed) && !SameLabel(p, n, one, other)) return false;
+    }
+  return left.UDP == right.UDP;
 }
 
 bool AnyAreaMarked() {
@@ -51,8 +66,7 @@ bool TextDiffers(const Document& now) {
 }
 
 bool PropertiesDiffer(const Document& now) {
-  return AnyAreaMarked() || AnyLabelMarked() ||
-         PropertyLinesOf(WithoutPageNumbers(now)) != PropertyLinesOf(WithoutPageNumbers(proposal.Saved));
+  return AnyAreaMarked() || AnyLabelMarked() || !SameLook(now, proposal.Saved);
 }
 
 }  // namespace

@@ -61,6 +61,17 @@ TEST_F(Changes, CountInMarksAndInLines) {
   EXPECT_FALSE(PropertiesHaveChanged());
 }
 
+TEST_F(Changes, LeaveOutThePageNumbersOfLabelsThatWereMoved) {
+  proposal.LabelMarks[1][0] = proposal.LabelMarks[5][63] = {true, true};
+  page(1).lbl[0].SetCaption("Gala - Page 2");
+  page(5).lbl[63].SetCaption("Page 6 of 6");
+  proposal.Saved = ReadPages();
+  page(5).lbl[63].SetCaption("Page 3 of 3");
+  EXPECT_FALSE(PropertiesHaveChanged());
+  page(1).lbl[0].SetCaption("Fair - Page 2");
+  EXPECT_TRUE(PropertiesHaveChanged());
+}
+
 TEST_F(Changes, StoreARowAsItStands) {
   ShowDefaultPages();
   Page& second = page(1);

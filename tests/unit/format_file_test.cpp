@@ -228,7 +228,8 @@ TEST_F(Formats, ClearingAsksOnlyForWorkThatIsNotSaved) {
 
 TEST_F(Formats, AProposalTakesTheirPlaceExceptWhereTheyAreLocked) {
   PutFormat("Autumn.wft", {"frmP2.txt(0).Text=Arch", "frmP2.txq(2).QtyBox=True .QtyValue=9 .AmtValue=9.99",
-                           "frmP2.txt(4).Text=Kept", "frmP2.txt(35).TaxExempt=True"});
+                           "frmP2.txt(4).Text=Kept", "frmP2.txt(35).TaxExempt=True",
+                           "frmP2.txq(6).QtyBox=True .QtyValue=1 .AmtValue=2"});
   Put("Emily Carter.wwf", Sample("Emily Carter.wwf"));
   for (const bool locked : {false, true}) {
     editing.DoNotLockFormat = !locked;
@@ -236,6 +237,7 @@ TEST_F(Formats, AProposalTakesTheirPlaceExceptWhereTheyAreLocked) {
     ASSERT_TRUE(Open("Emily Carter.wwf"));
     EXPECT_EQ(TextOf("frmP2.txt(0)"), locked ? "Arch" : "Ceremony Flowers");
     EXPECT_EQ(TextOf("frmP2.txtQty(2)"), "5") << "the proposal's own columns";
+    EXPECT_FALSE(page(1).HasColumns(6)) << "a plain row of the proposal is plain";
     EXPECT_FALSE(ProposalHasChanged());
   }
 }
